@@ -1,0 +1,64 @@
+// velmor.h: every public class of the Velmor library. A program that includes this header and
+// links libvelmor.so reaches all of them.
+#ifndef VELMOR_VELMOR_H
+#define VELMOR_VELMOR_H
+
+#include <velmor/core/QelAnsi.h>
+#include <velmor/core/QelAnsiLogicalException.h>
+#include <velmor/core/QelAnsiRuntimeException.h>
+#include <velmor/core/QelCnfFunctions.h>
+#include <velmor/core/QelCnfRefNiftyCounter.h>
+#include <velmor/core/QelCoClassCastException.h>
+#include <velmor/core/QelCoConverters.h>
+#include <velmor/core/QelCoCounted.h>
+#include <velmor/core/QelCoException.h>
+#include <velmor/core/QelCoExceptionString.h>
+#include <velmor/core/QelCoExport.h>
+#include <velmor/core/QelCoFailures.h>
+#include <velmor/core/QelCoLogicalException.h>
+#include <velmor/core/QelCoMisUsageException.h>
+#include <velmor/core/QelCoMsg.h>
+#include <velmor/core/QelCoMsgAccesser.h>
+#include <velmor/core/QelCoMsgFormatter.h>
+#include <velmor/core/QelCoMsgId.h>
+#include <velmor/core/QelCoNoResourceException.h>
+#include <velmor/core/QelCoNullPointerException.h>
+#include <velmor/core/QelCoObject.h>
+#include <velmor/core/QelCoOperationFailureException.h>
+#include <velmor/core/QelCoOutOfMemoryException.h>
+#include <velmor/core/QelCoOutOfRangeException.h>
+#include <velmor/core/QelCoRTTI.h>
+#include <velmor/core/QelCoRuntimeException.h>
+#include <velmor/core/QelCoSharedPtrConsts.h>
+#include <velmor/core/QelCoSharedUSPtrConsts.h>
+#include <velmor/core/QelCoStderrMsgFormatter.h>
+#include <velmor/core/QelCoSystemCallException.h>
+#include <velmor/core/QelCoTSharedCPtr.h>
+#include <velmor/core/QelCoTSharedPtr.h>
+#include <velmor/core/QelCoTSharedPtrBase.h>
+#include <velmor/core/QelCoTSharedTCPtr.h>
+#include <velmor/core/QelCoTSharedTPtr.h>
+#include <velmor/core/QelCoTSharedUSCPtr.h>
+#include <velmor/core/QelCoTSharedUSPtr.h>
+#include <velmor/core/QelCoTSharedUSTCPtr.h>
+#include <velmor/core/QelCoTSharedUSTPtr.h>
+#include <velmor/core/QelCoTUnsharedPtr.h>
+#include <velmor/core/QelCoUnsharedPtrConst.h>
+#include <velmor/core/QelLogNullMsgFormatter.h>
+#include <velmor/core/QelLogOstreamMsgFormatter.h>
+#include <velmor/core/QelLogSystemMsgFormatter.h>
+#include <velmor/core/QelMessageId_t.h>
+#include <velmor/platform/QelCnfSysParams.h>
+#include <velmor/platform/QelCnfVersionInfoData.h>
+#include <velmor/platform/QelOsUnix.h>
+#include <velmor/platform/QelSysOs.h>
+#include <velmor/thread/QelComtLockable.h>
+#include <velmor/thread/QelComtLocker.h>
+#include <velmor/thread/QelComtUnlocker.h>
+#include <velmor/thread/QelMtFirstCall.h>
+#include <velmor/thread/QelMtLockable.h>
+#include <velmor/thread/QelMtLocker.h>
+#include <velmor/thread/QelMtStringData.h>
+#include <velmor/thread/QelMtUnlocker.h>
+
+#endif

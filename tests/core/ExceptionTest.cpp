@@ -193,8 +193,9 @@ TEST(Exception, CopiesOwnTheirTextsAndRebuildThem) {
 
 TEST(Exception, FormatterOfTheExceptionsCanBeReplaced) {
     VelmorTest::ScopedCatalogue noCatalogue("");
+    QelCoException first("C", "m");  // the first exception installs the default formatter
     QelCoTSharedPtr<QelCoMsgFormatter> saved = QelCoException::cs_getMsgFormatter();
-    ASSERT_EQ(0, saved.isNull()) << "the first exception installs the default formatter";
+    ASSERT_EQ(0, saved.isNull());
     EXPECT_STREQ("QelCoStderrMsgFormatter", saved->getClassName());
 
     // Without a formatter the unfilled default text stands in; the next exception made

@@ -4,7 +4,7 @@
 set -euo pipefail
 build_dir=$1
 source_dir=$2
-arch_flag=${3:-}
+flags=${3:-}
 emulator=${4:-}
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
@@ -16,7 +16,7 @@ test -f "$work/prefix/share/velmor/velqel.cat"
 # pkg-config
 export PKG_CONFIG_PATH="$libdir/pkgconfig"
 # shellcheck disable=SC2046
-g++ -std=c++17 $arch_flag "$source_dir/consumer.cpp" -o "$work/consumer-pc" \
+g++ -std=c++17 $flags "$source_dir/consumer.cpp" -o "$work/consumer-pc" \
     $(pkg-config --cflags --libs velmor) -Wl,-rpath,"$libdir"
 out=$($emulator "$work/consumer-pc")
 test "$out" = "QelCoNullPointerException thrown at Consumer::run(): input is a null pointer."
@@ -24,7 +24,7 @@ test "$out" = "QelCoNullPointerException thrown at Consumer::run(): input is a n
 # CMake package
 mkdir -p "$work/cm"
 cmake -S "$source_dir" -B "$work/cm" -DCMAKE_PREFIX_PATH="$work/prefix" \
-      -DCMAKE_CXX_FLAGS="$arch_flag" -DCMAKE_EXE_LINKER_FLAGS="$arch_flag" >/dev/null
+      -DCMAKE_CXX_FLAGS="$flags" -DCMAKE_EXE_LINKER_FLAGS="$flags" >/dev/null
 cmake --build "$work/cm" >/dev/null
 out=$($emulator "$work/cm/consumer")
 test "$out" = "QelCoNullPointerException thrown at Consumer::run(): input is a null pointer."

@@ -1,12 +1,12 @@
 #!/usr/bin/env bash
 # Installs the Debian packages the build needs when they are missing: the compilers with
-# 32-bit support, CMake and Ninja, GoogleTest sources, Google Benchmark, gencat, pkg-config
-# clang (for the fuzz targets) and qemu-user (to run i386 programs on kernels without
-# 32-bit support). Runs apt-get only when something is missing.
+# 32-bit support, CMake and Ninja, GoogleTest sources, Google Benchmark, gencat, pkg-config,
+# the locale sources the tests compile, clang (for the fuzz targets) and qemu-user (to run i386
+# programs on kernels without 32-bit support). Runs apt-get only when something is missing.
 set -euo pipefail
 
 packages=(g++ g++-multilib cmake ninja-build googletest libbenchmark-dev libc-bin pkg-config
-          clang clang-format qemu-user)
+          clang clang-format qemu-user locales)
 missing=()
 for package in "${packages[@]}"; do
     if ! dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q "install ok installed"; then

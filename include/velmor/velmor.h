@@ -52,6 +52,8 @@
 #include <velmor/platform/QelCnfVersionInfoData.h>
 #include <velmor/platform/QelOsUnix.h>
 #include <velmor/platform/QelSysOs.h>
+#include <velmor/text/QelUtNumberFormatException.h>
+#include <velmor/text/QelUtStr.h>
 #include <velmor/thread/QelComtLockable.h>
 #include <velmor/thread/QelComtLocker.h>
 #include <velmor/thread/QelComtUnlocker.h>

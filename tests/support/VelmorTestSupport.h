@@ -3,6 +3,7 @@
 #ifndef VELMOR_TESTS_SUPPORT_VELMORTESTSUPPORT_H
 #define VELMOR_TESTS_SUPPORT_VELMORTESTSUPPORT_H
 
+#include <clocale>
 #include <cstdlib>
 #include <cstring>
 #include <iostream>
@@ -44,6 +45,25 @@ inline std::string builtCatalogueDir() {
 inline std::string alternativeCatalogueDir() {
     return VELMOR_TEST_ALT_CATALOG_DIR;
 }
+
+// Switches LC_ALL to `name`, a locale compiled into the build tree, for the life of the
+// object; ok() tells whether the locale could be set.
+class ScopedLocale {
+public:
+    explicit ScopedLocale(char const* name) : m_old(std::setlocale(LC_ALL, nullptr)) {
+        setenv("LOCPATH", VELMOR_TEST_LOCALE_DIR, 1);
+        m_ok = std::setlocale(LC_ALL, name) != nullptr;
+    }
+    ~ScopedLocale() {
+        std::setlocale(LC_ALL, m_old.c_str());
+        unsetenv("LOCPATH");
+    }
+    bool ok() const { return m_ok; }
+
+private:
+    std::string m_old;
+    bool m_ok;
+};
 
 // Collects what is written to std::cerr while it lives.
 class CerrCapture {

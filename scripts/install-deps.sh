@@ -6,7 +6,7 @@
 set -euo pipefail
 
 packages=(g++ g++-multilib cmake ninja-build googletest libbenchmark-dev libc-bin pkg-config
-          clang clang-format qemu-user locales)
+          clang libclang-rt-14-dev clang-format qemu-user locales)
 missing=()
 for package in "${packages[@]}"; do
     if ! dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q "install ok installed"; then

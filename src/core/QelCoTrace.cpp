@@ -11,32 +11,31 @@ static QelCoTraceFormatter* fs_pFormatter = nullptr;
 static int fs_threshold = QelCoTrace::cs_thresholdOff;
 static int fs_outCallStackFlg = 0;
 
-void QelCoTrace::fill(QelCoTraceFormatter* formatter, char const* className, char const* methodName,
-                      int threshold) {
-    m_data.formatter = formatter;
-    m_data.className = className;
-    m_data.calledClassName = nullptr;
-    m_data.methodName = methodName;
-    m_data.calledMethodName = nullptr;
+static bool fs_sends(QelCoTraceData const& data, int level) {
+    return data.threshold <= level && data.formatter != nullptr;
+}
+
+// Fills the frame and sends `enter` if `level` passes the threshold. A frame not entered while
+// the call-stack flag is on still owes its `exit`: `entered` is then 2.
+static void fs_open(QelCoTraceData& data, QelCoTraceFormatter* formatter, char const* className,
+                    char const* methodName, int threshold, int level) {
+    data.formatter = formatter;
+    data.className = className;
+    data.calledClassName = nullptr;
+    data.methodName = methodName;
+    data.calledMethodName = nullptr;
     // Without a formatter nothing can be sent, whatever the levels.
-    m_data.threshold = formatter != nullptr ? threshold : cs_thresholdOff;
-    m_data.entered = 0;
-    m_data.callLevel = 0;
-}
-
-bool QelCoTrace::sends(int level) const {
-    return m_data.threshold <= level && m_data.formatter != nullptr;
-}
-
-void QelCoTrace::open(int level) {
-    if (!sends(level))
+    data.threshold = formatter != nullptr ? threshold : QelCoTrace::cs_thresholdOff;
+    data.entered = fs_outCallStackFlg != 0 ? 2 : 0;
+    data.callLevel = 0;
+    if (!fs_sends(data, level))
         return;
-    if (m_data.className != nullptr) {
-        m_data.formatter->enter(m_data.className, m_data.methodName);
+    if (className != nullptr) {
+        formatter->enter(className, methodName);
     } else {
-        m_data.formatter->enter(m_data.methodName);
+        formatter->enter(methodName);
     }
-    m_data.entered = 1;
+    data.entered = 1;
 }
 
 static int fs_quieterThreshold(int threshold) {
@@ -49,35 +48,39 @@ static char const* fs_classNameOf(QelCoObject const* object) {
     return object->getClassName();
 }
 
+static QelCoTraceFormatter* fs_formatterOr(QelCoTraceFormatter* formatter) {
+    return formatter != nullptr ? formatter : fs_pFormatter;
+}
+
 void QelCoTrace::do_construct(QelCoTraceFormatter* formatter, QelCoObject const* object,
                               char const* methodName, int threshold, int level) {
-    do_construct(formatter, fs_classNameOf(object), methodName, threshold, level);
+    fs_open(m_data, fs_formatterOr(formatter), fs_classNameOf(object), methodName, threshold,
+            level);
 }
 
 void QelCoTrace::do_construct(QelCoTraceFormatter* formatter, char const* className,
                               char const* methodName, int threshold, int level) {
-    fill(formatter != nullptr ? formatter : fs_pFormatter, className, methodName, threshold);
-    open(level);
+    fs_open(m_data, fs_formatterOr(formatter), className, methodName, threshold, level);
 }
 
 void QelCoTrace::do_construct(QelCoTraceFormatter* formatter, char const* methodName, int threshold,
                               int level) {
-    do_construct(formatter, static_cast<char const*>(nullptr), methodName, threshold, level);
+    fs_open(m_data, fs_formatterOr(formatter), nullptr, methodName, threshold, level);
 }
 
 void QelCoTrace::do_construct(QelCoObject const* object, char const* methodName, int threshold,
                               int level) {
-    do_construct(fs_classNameOf(object), methodName, threshold, level);
+    fs_open(m_data, fs_pFormatter, fs_classNameOf(object), methodName,
+            fs_quieterThreshold(threshold), level);
 }
 
 void QelCoTrace::do_construct(char const* className, char const* methodName, int threshold,
                               int level) {
-    fill(fs_pFormatter, className, methodName, fs_quieterThreshold(threshold));
-    open(level);
+    fs_open(m_data, fs_pFormatter, className, methodName, fs_quieterThreshold(threshold), level);
 }
 
 void QelCoTrace::do_construct(char const* methodName, int threshold, int level) {
-    do_construct(static_cast<char const*>(nullptr), methodName, threshold, level);
+    fs_open(m_data, fs_pFormatter, nullptr, methodName, fs_quieterThreshold(threshold), level);
 }
 
 void QelCoTrace::do_construct(QelCoTrace const& other) {
@@ -102,23 +105,23 @@ void QelCoTrace::do_destruct() {
 }
 
 void QelCoTrace::do_arg(char const* name, long value, int level) {
-    if (sends(level))
+    if (fs_sends(m_data, level))
         m_data.formatter->arg(name, value);
 }
 
 void QelCoTrace::do_arg(char const* name, std::string const& value, int level) {
-    if (sends(level))
+    if (fs_sends(m_data, level))
         m_data.formatter->arg(name, value);
 }
 
 void QelCoTrace::do_arg(char const* name, char const* value, int level) {
-    if (sends(level))
+    if (fs_sends(m_data, level))
         m_data.formatter->arg(name, value != nullptr ? std::string(value) : std::string());
 }
 
 void QelCoTrace::do_argByteArray(char const* name, void const* bytes, unsigned int length,
                                  int level) {
-    if (sends(level))
+    if (fs_sends(m_data, level))
         m_data.formatter->arg(name, bytes, length);
 }
 
@@ -132,7 +135,7 @@ void QelCoTrace::do_call(char const* className, char const* methodName, int leve
     m_data.calledClassName = className;
     m_data.calledMethodName = methodName;
     m_data.callLevel = level;
-    if (!sends(level))
+    if (!fs_sends(m_data, level))
         return;
     if (className != nullptr) {
         m_data.formatter->call(className, methodName);
@@ -146,7 +149,7 @@ void QelCoTrace::do_call(char const* methodName, int level) {
 }
 
 void QelCoTrace::do_return() {
-    if (!sends(m_data.callLevel))
+    if (!fs_sends(m_data, m_data.callLevel))
         return;
     if (m_data.calledClassName != nullptr) {
         m_data.formatter->returned(m_data.calledClassName, m_data.calledMethodName);
@@ -156,27 +159,27 @@ void QelCoTrace::do_return() {
 }
 
 void QelCoTrace::do_mark(char const* text, int level) {
-    if (sends(level))
+    if (fs_sends(m_data, level))
         m_data.formatter->mark(text);
 }
 
 void QelCoTrace::do_time(char const* text, int level) {
-    if (sends(level))
+    if (fs_sends(m_data, level))
         m_data.formatter->time(text);
 }
 
 void QelCoTrace::do_error(char const* text, int level) {
-    if (sends(level))
+    if (fs_sends(m_data, level))
         m_data.formatter->error(text);
 }
 
 void QelCoTrace::do_warn(char const* text, int level) {
-    if (sends(level))
+    if (fs_sends(m_data, level))
         m_data.formatter->warn(text);
 }
 
 void QelCoTrace::do_caught(QelCoException const& exception, int level) {
-    if (!sends(level))
+    if (!fs_sends(m_data, level))
         return;
     m_data.formatter->mark("Exception Begin");
     m_data.formatter->exception(QelCoTraceFormatter::qellibGroup, exception.getClassName());
@@ -185,7 +188,7 @@ void QelCoTrace::do_caught(QelCoException const& exception, int level) {
 }
 
 void QelCoTrace::do_caught(std::exception const& exception, int level) {
-    if (!sends(level))
+    if (!fs_sends(m_data, level))
         return;
     m_data.formatter->mark("Exception Begin");
     m_data.formatter->exception(QelCoTraceFormatter::stdlibGroup, exception.what());

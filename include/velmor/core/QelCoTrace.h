@@ -51,7 +51,7 @@ struct VELMOR_API QelCoTraceData {
     char const* methodName;
     char const* calledMethodName;
     int threshold;  // events below this level are dropped
-    int entered;    // 1 once `enter` has been sent
+    int entered;    // 1 once `enter` has been sent; 2 if not, but `exit` is owed anyway
     int callLevel;  // level of the last call
 };
 
@@ -102,7 +102,11 @@ class VELMOR_API QelCoTrace {
         return *this;
     }
     // Sends `exit` if `enter` was sent, or always while cs_enableOutCallStack is in force.
-    ~QelCoTrace() { do_destruct(); }
+    // A frame that owes no `exit` closes without a call.
+    ~QelCoTrace() {
+        if (m_data.entered != 0)
+            do_destruct();
+    }
 
     // Event wrappers: each sends its event if the frame's threshold is at most `level`.
     void arg(char const* name, long value, int level = cs_defaultLevel) {
@@ -224,11 +228,6 @@ class VELMOR_API QelCoTrace {
   private:
     // The threshold that leaves the process setting alone.
     static constexpr int cs_thresholdNone = -0x7fffffff - 1;
-
-    void fill(QelCoTraceFormatter* formatter, char const* className, char const* methodName,
-              int threshold);
-    void open(int level);
-    bool sends(int level) const;
 
     QelCoTraceData m_data;
 };

@@ -14,7 +14,8 @@
 //     QelCoTrace::cs_enableTrace(&formatter, 1);       // events of level 1 and up
 //
 //     int Parser::parse(std::string const& text) {
-//         QelCoTrace trace(this, "parse");             // "enter Parser::parse()"
+//         QelCoTrace trace(this, "parse");             // Parser is a QelCoObject:
+//                                                      // "enter Parser::parse()"
 //         trace.arg("text", text);                     // "arg text ..."
 //         trace.call("Lexer", "split");                // "call Lexer::split()"
 //         int n = lexer.split(text);

@@ -11,6 +11,7 @@
 #include <velmor/core/QelCoClassCastException.h>
 #include <velmor/core/QelCoConverters.h>
 #include <velmor/core/QelCoCounted.h>
+#include <velmor/core/QelCoDevelopersTrace.h>
 #include <velmor/core/QelCoException.h>
 #include <velmor/core/QelCoExceptionString.h>
 #include <velmor/core/QelCoExport.h>
@@ -43,6 +44,9 @@
 #include <velmor/core/QelCoTSharedUSTCPtr.h>
 #include <velmor/core/QelCoTSharedUSTPtr.h>
 #include <velmor/core/QelCoTUnsharedPtr.h>
+#include <velmor/core/QelCoTextOstreamTraceFormatter.h>
+#include <velmor/core/QelCoTrace.h>
+#include <velmor/core/QelCoTraceFormatter.h>
 #include <velmor/core/QelCoUnsharedPtrConst.h>
 #include <velmor/core/QelLogNullMsgFormatter.h>
 #include <velmor/core/QelLogOstreamMsgFormatter.h>

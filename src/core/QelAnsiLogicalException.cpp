@@ -1,6 +1,7 @@
 #include <velmor/core/QelAnsiLogicalException.h>
 
 #include <velmor/core/QelCoMsg.h>
+#include <velmor/core/QelCoTrace.h>
 #include <velmor/core/QelMessageId_t.h>
 
 namespace Velmor {
@@ -21,6 +22,10 @@ QelAnsiLogicalException::QelAnsiLogicalException(QelCoObject const* object, char
 QelAnsiLogicalException::QelAnsiLogicalException(std::exception const& exception)
     : QelCoLogicalException(static_cast<char const*>(nullptr), static_cast<char const*>(nullptr)),
       m_qelAnsiLogicalExceptionData(exception.what()) {}
+
+QelAnsiLogicalException::QelAnsiLogicalException(QelCoTrace const& trace,
+                                                 std::exception const& exception)
+    : QelCoLogicalException(trace), m_qelAnsiLogicalExceptionData(exception.what()) {}
 
 QelAnsiLogicalException::QelAnsiLogicalException(QelAnsiLogicalException const& other)
     : QelCoLogicalException(other),
@@ -43,6 +48,10 @@ void QelAnsiLogicalException::setMsg(QelCoMsg* msg) const {
 
 char const* QelAnsiLogicalException::getText() const {
     return m_qelAnsiLogicalExceptionData.text.get();
+}
+
+void QelAnsiLogicalException::putTraceOn(QelCoTrace* trace) const {
+    traceToPutOn(trace).do_mark(getText(), 0);
 }
 
 }  // namespace Velmor

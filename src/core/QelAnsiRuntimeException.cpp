@@ -1,6 +1,7 @@
 #include <velmor/core/QelAnsiRuntimeException.h>
 
 #include <velmor/core/QelCoMsg.h>
+#include <velmor/core/QelCoTrace.h>
 #include <velmor/core/QelMessageId_t.h>
 
 namespace Velmor {
@@ -21,6 +22,10 @@ QelAnsiRuntimeException::QelAnsiRuntimeException(QelCoObject const* object, char
 QelAnsiRuntimeException::QelAnsiRuntimeException(std::exception const& exception)
     : QelCoRuntimeException(static_cast<char const*>(nullptr), static_cast<char const*>(nullptr)),
       m_qelAnsiRuntimeExceptionData(exception.what()) {}
+
+QelAnsiRuntimeException::QelAnsiRuntimeException(QelCoTrace const& trace,
+                                                 std::exception const& exception)
+    : QelCoRuntimeException(trace), m_qelAnsiRuntimeExceptionData(exception.what()) {}
 
 QelAnsiRuntimeException::QelAnsiRuntimeException(QelAnsiRuntimeException const& other)
     : QelCoRuntimeException(other),
@@ -43,6 +48,10 @@ void QelAnsiRuntimeException::setMsg(QelCoMsg* msg) const {
 
 char const* QelAnsiRuntimeException::getText() const {
     return m_qelAnsiRuntimeExceptionData.text.get();
+}
+
+void QelAnsiRuntimeException::putTraceOn(QelCoTrace* trace) const {
+    traceToPutOn(trace).do_mark(getText(), 0);
 }
 
 }  // namespace Velmor

@@ -1,6 +1,7 @@
 #include <velmor/core/QelCoClassCastException.h>
 
 #include <velmor/core/QelCoMsg.h>
+#include <velmor/core/QelCoTrace.h>
 #include <velmor/core/QelMessageId_t.h>
 #include <cstdint>
 #include <cstdio>
@@ -13,6 +14,10 @@ QelCoClassCastException::QelCoClassCastException(char const* fileName, int line,
                                                  QelCoRTTI const& from, QelCoRTTI const& to,
                                                  void const* address)
     : QelCoLogicalException(fileName, line), m_qelCoClassCastExceptionData(&from, &to, address) {}
+
+QelCoClassCastException::QelCoClassCastException(QelCoTrace const& trace, QelCoRTTI const& from,
+                                                 QelCoRTTI const& to, void const* address)
+    : QelCoLogicalException(trace), m_qelCoClassCastExceptionData(&from, &to, address) {}
 
 QelCoClassCastException::QelCoClassCastException(QelCoClassCastException const& other)
     : QelCoLogicalException(other),
@@ -50,6 +55,15 @@ void const* QelCoClassCastException::getAddress() const {
 void QelCoClassCastException::formatAddress(char* buffer, unsigned int size) const {
     std::snprintf(buffer, size, "0x%.8lx",
                   static_cast<unsigned long>(reinterpret_cast<std::uintptr_t>(getAddress())));
+}
+
+void QelCoClassCastException::putTraceOn(QelCoTrace* trace) const {
+    QelCoTrace& out = traceToPutOn(trace);
+    char address[32];
+    formatAddress(address, sizeof address);
+    out.do_arg("from", getFrom().name, 0);
+    out.do_arg("to", getTo().name, 0);
+    out.do_arg("address", address, 0);
 }
 
 }  // namespace Velmor

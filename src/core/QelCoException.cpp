@@ -4,9 +4,11 @@
 #include <cstring>
 #include <string>
 
+#include <velmor/core/QelCoFailures.h>
 #include <velmor/core/QelCoMsg.h>
 #include <velmor/core/QelCoMsgFormatter.h>
 #include <velmor/core/QelCoStderrMsgFormatter.h>
+#include <velmor/core/QelCoTrace.h>
 #include <velmor/core/QelMessageId_t.h>
 #include <velmor/thread/QelComtLocker.h>
 
@@ -75,6 +77,9 @@ QelCoException::QelCoException(char const* className, char const* methodName)
 QelCoException::QelCoException(QelCoObject const* object, char const* methodName)
     : m_data(nullptr, 0, object->getClassName(), methodName) {}
 
+QelCoException::QelCoException(QelCoTrace const& trace)
+    : m_data(nullptr, 0, trace.getClassName(), trace.getMethodName()) {}
+
 QelCoException::QelCoException(QelCoException const& other)
     : QelCoObject(other), m_data(other.m_data) {}
 
@@ -107,6 +112,16 @@ void QelCoException::setMsgHead(QelCoMsg* msg, QelCoMsgId const& id) const {
 
 void QelCoException::setMsg(QelCoMsg* msg) const {
     setMsgHead(msg, QelMessageId[1]);
+}
+
+void QelCoException::putTraceOn(QelCoTrace* trace) const {
+    traceToPutOn(trace);
+}
+
+QelCoTrace& QelCoException::traceToPutOn(QelCoTrace* trace) const {
+    if (trace == nullptr)
+        g_qelCoNullCheckFailed(this, "putTraceOn", "pTrace");
+    return *trace;
 }
 
 char const* QelCoException::what() const {

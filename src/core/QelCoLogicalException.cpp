@@ -1,6 +1,7 @@
 #include <velmor/core/QelCoLogicalException.h>
 
 #include <velmor/core/QelCoMsg.h>
+#include <velmor/core/QelCoTrace.h>
 #include <velmor/core/QelMessageId_t.h>
 
 namespace Velmor {
@@ -13,6 +14,8 @@ QelCoLogicalException::QelCoLogicalException(char const* className, char const* 
     : QelCoException(className, methodName) {}
 QelCoLogicalException::QelCoLogicalException(QelCoObject const* object, char const* methodName)
     : QelCoException(object, methodName) {}
+
+QelCoLogicalException::QelCoLogicalException(QelCoTrace const& trace) : QelCoException(trace) {}
 
 QelCoLogicalException::QelCoLogicalException(QelCoLogicalException const& other)
     : QelCoException(other) {}

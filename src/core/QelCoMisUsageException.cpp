@@ -1,6 +1,7 @@
 #include <velmor/core/QelCoMisUsageException.h>
 
 #include <velmor/core/QelCoMsg.h>
+#include <velmor/core/QelCoTrace.h>
 #include <velmor/core/QelMessageId_t.h>
 #include <cstdio>
 #include <string>
@@ -17,6 +18,9 @@ QelCoMisUsageException::QelCoMisUsageException(char const* className, char const
 QelCoMisUsageException::QelCoMisUsageException(QelCoObject const* object, char const* methodName,
                                                QelCoMsg* msg)
     : QelCoRuntimeException(object, methodName), m_qelCoMisUsageExceptionData(msg) {}
+
+QelCoMisUsageException::QelCoMisUsageException(QelCoTrace const& trace, QelCoMsg* msg)
+    : QelCoRuntimeException(trace), m_qelCoMisUsageExceptionData(msg) {}
 
 QelCoMisUsageException::QelCoMisUsageException(QelCoMisUsageException const& other)
     : QelCoRuntimeException(other),
@@ -61,6 +65,10 @@ QelCoMisUsageExceptionData::QelCoMisUsageExceptionData(QelCoMsg* msg) {
 char const* QelCoMisUsageException::getText() const {
     char const* text = m_qelCoMisUsageExceptionData.text.get();
     return text != nullptr ? text : fs_whatStrByMisExp;
+}
+
+void QelCoMisUsageException::putTraceOn(QelCoTrace* trace) const {
+    traceToPutOn(trace).do_mark(getText(), 0);
 }
 
 }  // namespace Velmor

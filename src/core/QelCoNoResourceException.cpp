@@ -1,6 +1,7 @@
 #include <velmor/core/QelCoNoResourceException.h>
 
 #include <velmor/core/QelCoMsg.h>
+#include <velmor/core/QelCoTrace.h>
 #include <velmor/core/QelMessageId_t.h>
 
 namespace Velmor {
@@ -16,6 +17,10 @@ QelCoNoResourceException::QelCoNoResourceException(char const* className, char c
 QelCoNoResourceException::QelCoNoResourceException(QelCoObject const* object,
                                                    char const* methodName, char const* resourceName)
     : QelCoOperationFailureExceptionTrue(object, methodName, resourceName) {}
+
+QelCoNoResourceException::QelCoNoResourceException(QelCoTrace const& trace,
+                                                   char const* resourceName)
+    : QelCoOperationFailureExceptionTrue(trace, resourceName) {}
 
 QelCoNoResourceException::QelCoNoResourceException(QelCoNoResourceException const& other)
     : QelCoOperationFailureExceptionTrue(other) {}

@@ -1,6 +1,7 @@
 #include <velmor/core/QelCoNullPointerException.h>
 
 #include <velmor/core/QelCoMsg.h>
+#include <velmor/core/QelCoTrace.h>
 #include <velmor/core/QelMessageId_t.h>
 
 namespace Velmor {
@@ -18,6 +19,10 @@ QelCoNullPointerException::QelCoNullPointerException(QelCoObject const* object,
                                                      char const* methodName,
                                                      char const* parameterName)
     : QelCoLogicalException(object, methodName), m_qelCoNullPointerExceptionData(parameterName) {}
+
+QelCoNullPointerException::QelCoNullPointerException(QelCoTrace const& trace,
+                                                     char const* parameterName)
+    : QelCoLogicalException(trace), m_qelCoNullPointerExceptionData(parameterName) {}
 
 QelCoNullPointerException::QelCoNullPointerException(QelCoNullPointerException const& other)
     : QelCoLogicalException(other),
@@ -45,6 +50,12 @@ void QelCoNullPointerException::setMsg(QelCoMsg* msg) const {
 
 char const* QelCoNullPointerException::getParameterName() const {
     return m_qelCoNullPointerExceptionData.parameterName.get();
+}
+
+void QelCoNullPointerException::putTraceOn(QelCoTrace* trace) const {
+    QelCoTrace& out = traceToPutOn(trace);
+    if (getParameterName() != nullptr)
+        out.do_arg("parameter", getParameterName(), 0);
 }
 
 }  // namespace Velmor

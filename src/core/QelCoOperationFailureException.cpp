@@ -1,6 +1,7 @@
 #include <velmor/core/QelCoOperationFailureException.h>
 
 #include <velmor/core/QelCoMsg.h>
+#include <velmor/core/QelCoTrace.h>
 #include <velmor/core/QelMessageId_t.h>
 
 namespace Velmor {
@@ -19,6 +20,10 @@ QelCoOperationFailureExceptionTrue::QelCoOperationFailureExceptionTrue(
     QelCoObject const* object, char const* methodName, char const* failedOperationName)
     : QelCoRuntimeException(object, methodName),
       m_qelCoOperationFailureExceptionTrueData(failedOperationName) {}
+
+QelCoOperationFailureExceptionTrue::QelCoOperationFailureExceptionTrue(
+    QelCoTrace const& trace, char const* failedOperationName)
+    : QelCoRuntimeException(trace), m_qelCoOperationFailureExceptionTrueData(failedOperationName) {}
 
 QelCoOperationFailureExceptionTrue::QelCoOperationFailureExceptionTrue(
     QelCoOperationFailureExceptionTrue const& other)
@@ -47,6 +52,10 @@ static char const* const fs_qelCoFailedOperationName =
 char const* QelCoOperationFailureExceptionTrue::getFailedOperationName() const {
     char const* name = m_qelCoOperationFailureExceptionTrueData.failedOperationName.get();
     return name != nullptr ? name : fs_qelCoFailedOperationName;
+}
+
+void QelCoOperationFailureExceptionTrue::putTraceOn(QelCoTrace* trace) const {
+    traceToPutOn(trace).do_arg("operation", getFailedOperationName(), 0);
 }
 
 }  // namespace Velmor

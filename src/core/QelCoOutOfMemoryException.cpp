@@ -1,6 +1,7 @@
 #include <velmor/core/QelCoOutOfMemoryException.h>
 
 #include <velmor/core/QelCoMsg.h>
+#include <velmor/core/QelCoTrace.h>
 #include <velmor/core/QelMessageId_t.h>
 
 namespace Velmor {
@@ -14,6 +15,9 @@ QelCoOutOfMemoryException::QelCoOutOfMemoryException(char const* className, char
 QelCoOutOfMemoryException::QelCoOutOfMemoryException(QelCoObject const* object,
                                                      char const* methodName)
     : QelCoOperationFailureExceptionTrue(object, methodName, "new") {}
+
+QelCoOutOfMemoryException::QelCoOutOfMemoryException(QelCoTrace const& trace)
+    : QelCoOperationFailureExceptionTrue(trace, "new") {}
 
 QelCoOutOfMemoryException::QelCoOutOfMemoryException(QelCoOutOfMemoryException const& other)
     : QelCoOperationFailureExceptionTrue(other) {}

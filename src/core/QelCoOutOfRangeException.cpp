@@ -1,6 +1,7 @@
 #include <velmor/core/QelCoOutOfRangeException.h>
 
 #include <velmor/core/QelCoMsg.h>
+#include <velmor/core/QelCoTrace.h>
 #include <velmor/core/QelMessageId_t.h>
 #include <cstdio>
 
@@ -19,6 +20,10 @@ QelCoOutOfRangeException::QelCoOutOfRangeException(QelCoObject const* object,
                                                    char const* methodName, char const* argName,
                                                    long number)
     : QelCoRuntimeException(object, methodName), m_qelCoOutOfRangeExceptionData(argName, number) {}
+
+QelCoOutOfRangeException::QelCoOutOfRangeException(QelCoTrace const& trace, char const* argName,
+                                                   long number)
+    : QelCoRuntimeException(trace), m_qelCoOutOfRangeExceptionData(argName, number) {}
 
 QelCoOutOfRangeException::QelCoOutOfRangeException(QelCoOutOfRangeException const& other)
     : QelCoRuntimeException(other),
@@ -51,6 +56,12 @@ char const* QelCoOutOfRangeException::getArgName() const {
 
 long QelCoOutOfRangeException::getIllegalNumber() const {
     return m_qelCoOutOfRangeExceptionData.number;
+}
+
+void QelCoOutOfRangeException::putTraceOn(QelCoTrace* trace) const {
+    QelCoTrace& out = traceToPutOn(trace);
+    out.do_arg("arg", getArgName(), 0);
+    out.do_arg("number", getIllegalNumber(), 0);
 }
 
 }  // namespace Velmor

@@ -1,6 +1,7 @@
 #include <velmor/core/QelCoRuntimeException.h>
 
 #include <velmor/core/QelCoMsg.h>
+#include <velmor/core/QelCoTrace.h>
 #include <velmor/core/QelMessageId_t.h>
 
 namespace Velmor {
@@ -13,6 +14,8 @@ QelCoRuntimeException::QelCoRuntimeException(char const* className, char const* 
     : QelCoException(className, methodName) {}
 QelCoRuntimeException::QelCoRuntimeException(QelCoObject const* object, char const* methodName)
     : QelCoException(object, methodName) {}
+
+QelCoRuntimeException::QelCoRuntimeException(QelCoTrace const& trace) : QelCoException(trace) {}
 
 QelCoRuntimeException::QelCoRuntimeException(QelCoRuntimeException const& other)
     : QelCoException(other) {}

@@ -1,6 +1,7 @@
 #include <velmor/core/QelCoSystemCallException.h>
 
 #include <velmor/core/QelCoMsg.h>
+#include <velmor/core/QelCoTrace.h>
 #include <velmor/core/QelMessageId_t.h>
 
 namespace Velmor {
@@ -19,6 +20,11 @@ QelCoSystemCallException::QelCoSystemCallException(QelCoObject const* object,
                                                    char const* methodName, char const* systemCall,
                                                    int errNo)
     : QelCoOperationFailureExceptionTrue(object, methodName, systemCall),
+      m_qelCoSystemCallExceptionData(errNo) {}
+
+QelCoSystemCallException::QelCoSystemCallException(QelCoTrace const& trace, char const* systemCall,
+                                                   int errNo)
+    : QelCoOperationFailureExceptionTrue(trace, systemCall),
       m_qelCoSystemCallExceptionData(errNo) {}
 
 QelCoSystemCallException::QelCoSystemCallException(QelCoSystemCallException const& other)
@@ -43,6 +49,12 @@ void QelCoSystemCallException::setMsg(QelCoMsg* msg) const {
 
 int QelCoSystemCallException::getErrNo() const {
     return m_qelCoSystemCallExceptionData.errNo;
+}
+
+void QelCoSystemCallException::putTraceOn(QelCoTrace* trace) const {
+    QelCoTrace& out = traceToPutOn(trace);
+    out.do_arg("operation", getFailedOperationName(), 0);
+    out.do_arg("errno", static_cast<long>(getErrNo()), 0);
 }
 
 }  // namespace Velmor

@@ -1,6 +1,7 @@
 #include <velmor/text/QelUtNumberFormatException.h>
 
 #include <velmor/core/QelCoMsg.h>
+#include <velmor/core/QelCoTrace.h>
 #include <velmor/core/QelMessageId_t.h>
 
 namespace Velmor {
@@ -21,6 +22,10 @@ QelUtNumberFormatException::QelUtNumberFormatException(QelCoObject const* object
                                                        char const* methodName, char const* illegal)
     : QelCoLogicalException(object, methodName), m_qelUtNumberFormatExceptionData(illegal) {}
 
+QelUtNumberFormatException::QelUtNumberFormatException(QelCoTrace const& trace,
+                                                       char const* illegal)
+    : QelCoLogicalException(trace), m_qelUtNumberFormatExceptionData(illegal) {}
+
 QelUtNumberFormatException::QelUtNumberFormatException(QelUtNumberFormatException const& other)
     : QelCoLogicalException(other),
       m_qelUtNumberFormatExceptionData(other.m_qelUtNumberFormatExceptionData) {}
@@ -39,6 +44,10 @@ QelUtNumberFormatException::~QelUtNumberFormatException() {}
 void QelUtNumberFormatException::setMsg(QelCoMsg* msg) const {
     setMsgHead(msg, QelMessageId[23]);
     *msg << getIllegalString();
+}
+
+void QelUtNumberFormatException::putTraceOn(QelCoTrace* trace) const {
+    traceToPutOn(trace).do_arg("string", getIllegalString(), 0);
 }
 
 char const* QelUtNumberFormatException::getIllegalString() const {

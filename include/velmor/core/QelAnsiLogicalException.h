@@ -29,12 +29,16 @@ class VELMOR_API QelAnsiLogicalException : public QelCoLogicalException {
                             std::exception const& exception);
     // Without a place: where() gives the fixed text about the lost location.
     explicit QelAnsiLogicalException(std::exception const& exception);
+    // Placed at the class and method of a traced frame.
+    QelAnsiLogicalException(QelCoTrace const& trace, std::exception const& exception);
     QelAnsiLogicalException(QelAnsiLogicalException const& other);
     QelAnsiLogicalException& operator=(QelAnsiLogicalException const& other);
     ~QelAnsiLogicalException() override;
 
     // Message 13.
     void setMsg(QelCoMsg* msg) const override;
+    // Writes its own fields on `trace` at level 0.
+    void putTraceOn(QelCoTrace* trace) const override;
 
     // The standard exception's what(), or null if it could not be copied.
     char const* getText() const;

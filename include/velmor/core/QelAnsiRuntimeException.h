@@ -29,12 +29,16 @@ class VELMOR_API QelAnsiRuntimeException : public QelCoRuntimeException {
                             std::exception const& exception);
     // Without a place: where() gives the fixed text about the lost location.
     explicit QelAnsiRuntimeException(std::exception const& exception);
+    // Placed at the class and method of a traced frame.
+    QelAnsiRuntimeException(QelCoTrace const& trace, std::exception const& exception);
     QelAnsiRuntimeException(QelAnsiRuntimeException const& other);
     QelAnsiRuntimeException& operator=(QelAnsiRuntimeException const& other);
     ~QelAnsiRuntimeException() override;
 
     // Message 12.
     void setMsg(QelCoMsg* msg) const override;
+    // Writes its own fields on `trace` at level 0.
+    void putTraceOn(QelCoTrace* trace) const override;
 
     // The standard exception's what(), or null if it could not be copied.
     char const* getText() const;

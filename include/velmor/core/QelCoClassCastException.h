@@ -27,12 +27,17 @@ class VELMOR_API QelCoClassCastException : public QelCoLogicalException {
   public:
     QelCoClassCastException(char const* fileName, int line, QelCoRTTI const& from,
                             QelCoRTTI const& to, void const* address);
+    // Placed at the class and method of a traced frame.
+    QelCoClassCastException(QelCoTrace const& trace, QelCoRTTI const& from, QelCoRTTI const& to,
+                            void const* address);
     QelCoClassCastException(QelCoClassCastException const& other);
     QelCoClassCastException& operator=(QelCoClassCastException const& other);
     ~QelCoClassCastException() override;
 
     // Message 7.
     void setMsg(QelCoMsg* msg) const override;
+    // Writes its own fields on `trace` at level 0.
+    void putTraceOn(QelCoTrace* trace) const override;
 
     // The record of the object's class, the record asked for, and the object's address.
     QelCoRTTI const& getFrom() const;

@@ -19,6 +19,7 @@ namespace Velmor {
 
 class QelCoMsg;
 class QelCoMsgFormatter;
+class QelCoTrace;
 struct QelCoMsgId;
 
 // The place and the text caches of an exception.
@@ -56,6 +57,8 @@ class VELMOR_API QelCoException : public virtual QelCoObject {
     QelCoException(char const* fileName, int line);
     QelCoException(char const* className, char const* methodName);
     QelCoException(QelCoObject const* object, char const* methodName);
+    // Placed at the class and method of a traced frame.
+    explicit QelCoException(QelCoTrace const& trace);
     QelCoException(QelCoException const& other);
     QelCoException& operator=(QelCoException const& other);
     ~QelCoException() override;
@@ -67,6 +70,9 @@ class VELMOR_API QelCoException : public virtual QelCoObject {
     // Fills `msg` with this exception's message number and arguments: %1 where(), %2 the
     // class name, then the class's own.
     virtual void setMsg(QelCoMsg* msg) const;
+    // Writes this exception's own fields on `trace` as events of level 0; the root class has
+    // none. A null `trace` throws QelCoNullPointerException.
+    virtual void putTraceOn(QelCoTrace* trace) const;
 
     // The filled message text, made at the first call and kept. Never throws; falls back on
     // the default text, then "MessageID=<n>", then a fixed text about memory shortage.
@@ -83,6 +89,8 @@ class VELMOR_API QelCoException : public virtual QelCoObject {
   protected:
     // Steps common to every setMsg: the formatter if the message has none, the id, %1, %2.
     void setMsgHead(QelCoMsg* msg, QelCoMsgId const& id) const;
+    // The trace that putTraceOn writes on; throws QelCoNullPointerException if it is null.
+    QelCoTrace& traceToPutOn(QelCoTrace* trace) const;
 
   private:
     mutable QelCoExceptionData m_data;

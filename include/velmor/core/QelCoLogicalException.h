@@ -16,6 +16,8 @@ class VELMOR_API QelCoLogicalException : public QelCoException {
     QelCoLogicalException(char const* fileName, int line);
     QelCoLogicalException(char const* className, char const* methodName);
     QelCoLogicalException(QelCoObject const* object, char const* methodName);
+    // Placed at the class and method of a traced frame.
+    explicit QelCoLogicalException(QelCoTrace const& trace);
     QelCoLogicalException(QelCoLogicalException const& other);
     QelCoLogicalException& operator=(QelCoLogicalException const& other);
     ~QelCoLogicalException() override;

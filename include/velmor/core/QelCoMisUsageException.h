@@ -25,12 +25,16 @@ class VELMOR_API QelCoMisUsageException : public QelCoRuntimeException {
     QelCoMisUsageException(char const* fileName, int line, QelCoMsg* msg);
     QelCoMisUsageException(char const* className, char const* methodName, QelCoMsg* msg);
     QelCoMisUsageException(QelCoObject const* object, char const* methodName, QelCoMsg* msg);
+    // Placed at the class and method of a traced frame.
+    QelCoMisUsageException(QelCoTrace const& trace, QelCoMsg* msg);
     QelCoMisUsageException(QelCoMisUsageException const& other);
     QelCoMisUsageException& operator=(QelCoMisUsageException const& other);
     ~QelCoMisUsageException() override;
 
     // Message 11.
     void setMsg(QelCoMsg* msg) const override;
+    // Writes its own fields on `trace` at level 0.
+    void putTraceOn(QelCoTrace* trace) const override;
 
     // The misuse text, or "do not know what happend" if it was lost.
     char const* getText() const;

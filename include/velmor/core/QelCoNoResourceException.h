@@ -18,6 +18,8 @@ class VELMOR_API QelCoNoResourceException : public QelCoOperationFailureExceptio
                              char const* resourceName);
     QelCoNoResourceException(QelCoObject const* object, char const* methodName,
                              char const* resourceName);
+    // Placed at the class and method of a traced frame.
+    QelCoNoResourceException(QelCoTrace const& trace, char const* resourceName);
     QelCoNoResourceException(QelCoNoResourceException const& other);
     QelCoNoResourceException& operator=(QelCoNoResourceException const& other);
     ~QelCoNoResourceException() override;

@@ -25,12 +25,16 @@ class VELMOR_API QelCoNullPointerException : public QelCoLogicalException {
                               char const* parameterName);
     QelCoNullPointerException(QelCoObject const* object, char const* methodName,
                               char const* parameterName);
+    // Placed at the class and method of a traced frame.
+    QelCoNullPointerException(QelCoTrace const& trace, char const* parameterName);
     QelCoNullPointerException(QelCoNullPointerException const& other);
     QelCoNullPointerException& operator=(QelCoNullPointerException const& other);
     ~QelCoNullPointerException() override;
 
     // Message 6, or 5 when no parameter is named.
     void setMsg(QelCoMsg* msg) const override;
+    // Writes its own fields on `trace` at level 0.
+    void putTraceOn(QelCoTrace* trace) const override;
 
     // The parameter's name as given, null included.
     char const* getParameterName() const;

@@ -27,12 +27,16 @@ class VELMOR_API QelCoOperationFailureExceptionTrue : public QelCoRuntimeExcepti
                                        char const* failedOperationName);
     QelCoOperationFailureExceptionTrue(QelCoObject const* object, char const* methodName,
                                        char const* failedOperationName);
+    // Placed at the class and method of a traced frame.
+    QelCoOperationFailureExceptionTrue(QelCoTrace const& trace, char const* failedOperationName);
     QelCoOperationFailureExceptionTrue(QelCoOperationFailureExceptionTrue const& other);
     QelCoOperationFailureExceptionTrue& operator=(QelCoOperationFailureExceptionTrue const& other);
     ~QelCoOperationFailureExceptionTrue() override;
 
     // Message 4.
     void setMsg(QelCoMsg* msg) const override;
+    // Writes its own fields on `trace` at level 0.
+    void putTraceOn(QelCoTrace* trace) const override;
 
     // The failed operation, or "failed operation name lost due to memory shortage".
     char const* getFailedOperationName() const;

@@ -16,6 +16,8 @@ class VELMOR_API QelCoOutOfMemoryException : public QelCoOperationFailureExcepti
     QelCoOutOfMemoryException(char const* fileName, int line);
     QelCoOutOfMemoryException(char const* className, char const* methodName);
     QelCoOutOfMemoryException(QelCoObject const* object, char const* methodName);
+    // Placed at the class and method of a traced frame.
+    explicit QelCoOutOfMemoryException(QelCoTrace const& trace);
     QelCoOutOfMemoryException(QelCoOutOfMemoryException const& other);
     QelCoOutOfMemoryException& operator=(QelCoOutOfMemoryException const& other);
     ~QelCoOutOfMemoryException() override;

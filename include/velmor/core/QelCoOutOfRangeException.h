@@ -26,12 +26,16 @@ class VELMOR_API QelCoOutOfRangeException : public QelCoRuntimeException {
                              long number);
     QelCoOutOfRangeException(QelCoObject const* object, char const* methodName, char const* argName,
                              long number);
+    // Placed at the class and method of a traced frame.
+    QelCoOutOfRangeException(QelCoTrace const& trace, char const* argName, long number);
     QelCoOutOfRangeException(QelCoOutOfRangeException const& other);
     QelCoOutOfRangeException& operator=(QelCoOutOfRangeException const& other);
     ~QelCoOutOfRangeException() override;
 
     // Message 53.
     void setMsg(QelCoMsg* msg) const override;
+    // Writes its own fields on `trace` at level 0.
+    void putTraceOn(QelCoTrace* trace) const override;
 
     // The argument's name, or "lost argment name due to memory shortage" if it was lost.
     char const* getArgName() const;

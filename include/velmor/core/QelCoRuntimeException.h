@@ -17,6 +17,8 @@ class VELMOR_API QelCoRuntimeException : public QelCoException {
     QelCoRuntimeException(char const* fileName, int line);
     QelCoRuntimeException(char const* className, char const* methodName);
     QelCoRuntimeException(QelCoObject const* object, char const* methodName);
+    // Placed at the class and method of a traced frame.
+    explicit QelCoRuntimeException(QelCoTrace const& trace);
     QelCoRuntimeException(QelCoRuntimeException const& other);
     QelCoRuntimeException& operator=(QelCoRuntimeException const& other);
     ~QelCoRuntimeException() override;

@@ -25,12 +25,16 @@ class VELMOR_API QelCoSystemCallException : public QelCoOperationFailureExceptio
                              int errNo);
     QelCoSystemCallException(QelCoObject const* object, char const* methodName,
                              char const* systemCall, int errNo);
+    // Placed at the class and method of a traced frame.
+    QelCoSystemCallException(QelCoTrace const& trace, char const* systemCall, int errNo);
     QelCoSystemCallException(QelCoSystemCallException const& other);
     QelCoSystemCallException& operator=(QelCoSystemCallException const& other);
     ~QelCoSystemCallException() override;
 
     // Message 10.
     void setMsg(QelCoMsg* msg) const override;
+    // Writes its own fields on `trace` at level 0.
+    void putTraceOn(QelCoTrace* trace) const override;
 
     // The error number the call gave.
     int getErrNo() const;

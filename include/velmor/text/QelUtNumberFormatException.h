@@ -25,12 +25,16 @@ class VELMOR_API QelUtNumberFormatException : public QelCoLogicalException {
     QelUtNumberFormatException(char const* className, char const* methodName, char const* illegal);
     QelUtNumberFormatException(QelCoObject const* object, char const* methodName,
                                char const* illegal);
+    // Placed at the class and method of a traced frame.
+    QelUtNumberFormatException(QelCoTrace const& trace, char const* illegal);
     QelUtNumberFormatException(QelUtNumberFormatException const& other);
     QelUtNumberFormatException& operator=(QelUtNumberFormatException const& other);
     ~QelUtNumberFormatException() override;
 
     // Message 23: "%2 thrown at %1: %3 has illegal numerical format."
     void setMsg(QelCoMsg* msg) const override;
+    // Writes the illegal text on `trace` at level 0, as the argument "string".
+    void putTraceOn(QelCoTrace* trace) const override;
 
     // The text that could not be read, or "illegal number lost due to memory shortage".
     char const* getIllegalString() const;

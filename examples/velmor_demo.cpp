@@ -92,10 +92,27 @@ static void fs_showMessages() {
     std::cout << "  to nothing: (nothing written)\n";
 }
 
+static void fs_showTracing() {
+    std::cout << "\nA traced frame\n";
+    QelCoTextOstreamTraceFormatter formatter(&std::cout, 0);
+    QelCoTrace::cs_enableTrace(&formatter, 1);
+    {
+        QelCoTrace trace("Demo", "run");  // enter Demo::run()
+        trace.arg("count", 3);
+        try {
+            g_qelCoNullCheckFailed("Demo", "load", "pBuffer");
+        } catch (QelCoException const& e) {
+            trace.caught(e);  // Exception Begin, the exception, Exception End
+        }
+    }  // exit Demo::run()
+    QelCoTrace::cs_disableTrace();
+}
+
 int main() {
     fs_showCountedObjects();
     fs_showExceptions();
     fs_showMessages();
+    fs_showTracing();
     std::cout << "\nVelmor " << QelCnfSysParams::cs_qelVersion() << " (file version "
               << QelCnfSysParams::cs_qelFileVersion() << ") on " << QelCnfSysParams::cs_osName()
               << " " << QelCnfSysParams::cs_osVersion() << "\n";

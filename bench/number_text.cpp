@@ -20,8 +20,7 @@ std::vector<double> const fs_doubles = {0.0, 1.5, -1234.5, 3.14159, 1e9 + 0.25, 
 struct LocaleWithGrouping {
     LocaleWithGrouping() {
         setenv("LOCPATH", VELMOR_BENCH_LOCALE_DIR, 1);
-        if (std::setlocale(LC_ALL, "en_US.UTF-8") == nullptr)
-            std::abort();
+        if (std::setlocale(LC_ALL, "en_US.UTF-8") == nullptr) std::abort();
     }
 };
 LocaleWithGrouping const fs_locale;
@@ -54,9 +53,7 @@ std::string fs_print(char const* format, double value) {
     return std::string(text, static_cast<std::size_t>(length));
 }
 
-std::vector<std::string> fs_texts(std::vector<std::string> texts) {
-    return texts;
-}
+std::vector<std::string> fs_texts(std::vector<std::string> texts) { return texts; }
 
 std::vector<std::string> const fs_intTexts =
     fs_texts({"0", "7", "-42", "1234", "-98765", "1234567", "-2147483647", "2000000000"});
@@ -77,9 +74,7 @@ void fs_overTexts(benchmark::State& state, std::vector<std::string> const& texts
 
 }  // namespace
 
-static void intToStr_velmor(benchmark::State& s) {
-    fs_overInts(s, QelUtStr::intToStr);
-}
+static void intToStr_velmor(benchmark::State& s) { fs_overInts(s, QelUtStr::intToStr); }
 static void intToStr_snprintf(benchmark::State& s) {
     fs_overInts(s, [](int v) { return fs_print("%d", v); });
 }
@@ -96,9 +91,7 @@ static void intToThousandsSep_velmor(benchmark::State& s) {
 static void intToThousandsSep_snprintf(benchmark::State& s) {
     fs_overInts(s, [](int v) { return fs_print("%'d", v); });
 }
-static void doubleToStr_velmor(benchmark::State& s) {
-    fs_overDoubles(s, QelUtStr::doubleToStr);
-}
+static void doubleToStr_velmor(benchmark::State& s) { fs_overDoubles(s, QelUtStr::doubleToStr); }
 static void doubleToStr_snprintf(benchmark::State& s) {
     fs_overDoubles(s, [](double v) { return fs_print("%g", v); });
 }

@@ -32,8 +32,7 @@ void fs_run(benchmark::State& state) {
     for (auto _ : state)
         benchmark::DoNotOptimize(value = Function(value + 1));
     Velmor::QelCoTrace::cs_disableTrace();
-    if (!sink.str().empty())
-        state.SkipWithError("an event passed the threshold");
+    if (!sink.str().empty()) state.SkipWithError("an event passed the threshold");
 }
 
 }  // namespace

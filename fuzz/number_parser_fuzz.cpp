@@ -18,8 +18,7 @@ extern "C" int LLVMFuzzerInitialize(int*, char***) {
 }
 
 extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size) {
-    if (size < 2)
-        return 0;
+    if (size < 2) return 0;
     unsigned int limit = static_cast<unsigned int>(data[0]) << 8 | data[1];
     unsigned int n = limit == 0xffff ? QelUtStr::npos : limit;
     std::string text(reinterpret_cast<char const*>(data + 2), size - 2);
@@ -27,8 +26,7 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size
         volatile auto value = QelUtStr::VELMOR_FUZZ_PARSER(text, n);
         (void)value;
     } catch (QelUtNumberFormatException const& e) {
-        if (e.what()[0] == '\0')
-            std::abort();
+        if (e.what()[0] == '\0') std::abort();
     }
     return 0;
 }

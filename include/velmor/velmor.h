@@ -3,6 +3,13 @@
 #ifndef VELMOR_VELMOR_H
 #define VELMOR_VELMOR_H
 
+#include <velmor/basic/QelBtStringBlock.h>
+#include <velmor/basic/QelBtStringBuf.h>
+#include <velmor/basic/QelBtStringConsts.h>
+#include <velmor/basic/QelBtTReverseCPtr.h>
+#include <velmor/basic/QelBtTReversePtr.h>
+#include <velmor/basic/QelBtTString.h>
+#include <velmor/basic/QelBtTStringMethods.h>
 #include <velmor/core/QelAnsi.h>
 #include <velmor/core/QelAnsiLogicalException.h>
 #include <velmor/core/QelAnsiRuntimeException.h>

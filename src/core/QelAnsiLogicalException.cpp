@@ -32,8 +32,7 @@ QelAnsiLogicalException::QelAnsiLogicalException(QelAnsiLogicalException const& 
       m_qelAnsiLogicalExceptionData(other.m_qelAnsiLogicalExceptionData) {}
 
 QelAnsiLogicalException& QelAnsiLogicalException::operator=(QelAnsiLogicalException const& other) {
-    if (this == &other)
-        return *this;
+    if (this == &other) return *this;
     QelCoLogicalException::operator=(other);
     m_qelAnsiLogicalExceptionData = other.m_qelAnsiLogicalExceptionData;
     return *this;

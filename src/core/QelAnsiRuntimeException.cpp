@@ -32,8 +32,7 @@ QelAnsiRuntimeException::QelAnsiRuntimeException(QelAnsiRuntimeException const& 
       m_qelAnsiRuntimeExceptionData(other.m_qelAnsiRuntimeExceptionData) {}
 
 QelAnsiRuntimeException& QelAnsiRuntimeException::operator=(QelAnsiRuntimeException const& other) {
-    if (this == &other)
-        return *this;
+    if (this == &other) return *this;
     QelCoRuntimeException::operator=(other);
     m_qelAnsiRuntimeExceptionData = other.m_qelAnsiRuntimeExceptionData;
     return *this;

@@ -31,9 +31,7 @@ int QelCnfFunctions::cs_InterlockedDecrement(int* p) {
     return value;
 }
 
-void* QelCnfFunctions::cs_malloc(unsigned int size) {
-    return std::malloc(size);
-}
+void* QelCnfFunctions::cs_malloc(unsigned int size) { return std::malloc(size); }
 
 void* QelCnfFunctions::cs_calloc(unsigned int count, unsigned int size) {
     return std::calloc(count, size);
@@ -43,9 +41,7 @@ void* QelCnfFunctions::cs_realloc(void* block, unsigned int size) {
     return std::realloc(block, size);
 }
 
-void QelCnfFunctions::cs_free(void* block) {
-    std::free(block);
-}
+void QelCnfFunctions::cs_free(void* block) { std::free(block); }
 
 char* QelCnfFunctions::cs_strdup(char const* s) {
     std::size_t length = std::strlen(s);

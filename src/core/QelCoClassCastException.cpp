@@ -24,8 +24,7 @@ QelCoClassCastException::QelCoClassCastException(QelCoClassCastException const& 
       m_qelCoClassCastExceptionData(other.m_qelCoClassCastExceptionData) {}
 
 QelCoClassCastException& QelCoClassCastException::operator=(QelCoClassCastException const& other) {
-    if (this == &other)
-        return *this;
+    if (this == &other) return *this;
     QelCoLogicalException::operator=(other);
     m_qelCoClassCastExceptionData = other.m_qelCoClassCastExceptionData;
     return *this;

@@ -14,27 +14,17 @@ QelCoCounted::QelCoCounted() : m_count(0) {}
 
 QelCoCounted::QelCoCounted(QelCoCounted const& other) : QelCoObject(other), m_count(0) {}
 
-QelCoCounted& QelCoCounted::operator=(QelCoCounted const&) {
-    return *this;
-}
+QelCoCounted& QelCoCounted::operator=(QelCoCounted const&) { return *this; }
 
 QelCoCounted::~QelCoCounted() {}
 
-int QelCoCounted::__refUp() {
-    return QelCnfFunctions::cs_InterlockedIncrement(&m_count);
-}
+int QelCoCounted::__refUp() { return QelCnfFunctions::cs_InterlockedIncrement(&m_count); }
 
-int QelCoCounted::__refDown() {
-    return QelCnfFunctions::cs_InterlockedDecrement(&m_count);
-}
+int QelCoCounted::__refDown() { return QelCnfFunctions::cs_InterlockedDecrement(&m_count); }
 
-void QelCoCounted::enableAutoDelete() {
-    QelCnfFunctions::cs_InterlockedDecrement(&m_count);
-}
+void QelCoCounted::enableAutoDelete() { QelCnfFunctions::cs_InterlockedDecrement(&m_count); }
 
-void QelCoCounted::disableAutoDelete() {
-    QelCnfFunctions::cs_InterlockedIncrement(&m_count);
-}
+void QelCoCounted::disableAutoDelete() { QelCnfFunctions::cs_InterlockedIncrement(&m_count); }
 
 void QelCoCounted::cs_enableCopy() {
     QelComtLocker locker(&fs_lock);

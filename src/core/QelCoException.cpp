@@ -55,8 +55,7 @@ QelCoExceptionData::QelCoExceptionData(QelCoExceptionData const& other)
 }
 
 QelCoExceptionData& QelCoExceptionData::operator=(QelCoExceptionData const& other) {
-    if (this == &other)
-        return *this;
+    if (this == &other) return *this;
     fileName = other.fileName;
     line = other.line;
     className = other.className;
@@ -98,35 +97,26 @@ QelCoException* QelCoException::duplicate() const {
     }
 }
 
-void QelCoException::raise() const {
-    throw *this;
-}
+void QelCoException::raise() const { throw *this; }
 
 void QelCoException::setMsgHead(QelCoMsg* msg, QelCoMsgId const& id) const {
-    if (msg->getMsgFormatter().isNull())
-        msg->setMsgFormatter(cs_getMsgFormatter());
+    if (msg->getMsgFormatter().isNull()) msg->setMsgFormatter(cs_getMsgFormatter());
     msg->setMsgId(id);
     *msg << where();
     *msg << getClassName();
 }
 
-void QelCoException::setMsg(QelCoMsg* msg) const {
-    setMsgHead(msg, QelMessageId[1]);
-}
+void QelCoException::setMsg(QelCoMsg* msg) const { setMsgHead(msg, QelMessageId[1]); }
 
-void QelCoException::putTraceOn(QelCoTrace* trace) const {
-    traceToPutOn(trace);
-}
+void QelCoException::putTraceOn(QelCoTrace* trace) const { traceToPutOn(trace); }
 
 QelCoTrace& QelCoException::traceToPutOn(QelCoTrace* trace) const {
-    if (trace == nullptr)
-        g_qelCoNullCheckFailed(this, "putTraceOn", "pTrace");
+    if (trace == nullptr) g_qelCoNullCheckFailed(this, "putTraceOn", "pTrace");
     return *trace;
 }
 
 char const* QelCoException::what() const {
-    if (!m_data.what.isNull())
-        return m_data.what.get();
+    if (!m_data.what.isNull()) return m_data.what.get();
     try {
         QelCoMsg msg;
         setMsg(&msg);
@@ -152,8 +142,7 @@ char const* QelCoException::what() const {
 }
 
 char const* QelCoException::where() const {
-    if (!m_data.where.isNull())
-        return m_data.where.get();
+    if (!m_data.where.isNull()) return m_data.where.get();
     char const* file = m_data.fileName.get();
     char const* className = m_data.className.get();
     char const* methodName = m_data.methodName.get();

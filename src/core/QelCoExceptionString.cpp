@@ -14,15 +14,12 @@ QelCoExceptionString::QelCoExceptionString(QelCoExceptionString const& other)
     : m_text(fs_copyOrNull(other.m_text)) {}
 
 QelCoExceptionString& QelCoExceptionString::operator=(QelCoExceptionString const& other) {
-    if (other.m_text == m_text)
-        return *this;
+    if (other.m_text == m_text) return *this;
     adopt(fs_copyOrNull(other.m_text));
     return *this;
 }
 
-QelCoExceptionString::~QelCoExceptionString() {
-    delete[] m_text;
-}
+QelCoExceptionString::~QelCoExceptionString() { delete[] m_text; }
 
 void QelCoExceptionString::adopt(char* text) {
     delete[] m_text;

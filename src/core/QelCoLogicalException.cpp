@@ -21,16 +21,13 @@ QelCoLogicalException::QelCoLogicalException(QelCoLogicalException const& other)
     : QelCoException(other) {}
 
 QelCoLogicalException& QelCoLogicalException::operator=(QelCoLogicalException const& other) {
-    if (this == &other)
-        return *this;
+    if (this == &other) return *this;
     QelCoException::operator=(other);
     return *this;
 }
 
 QelCoLogicalException::~QelCoLogicalException() {}
 
-void QelCoLogicalException::setMsg(QelCoMsg* msg) const {
-    setMsgHead(msg, QelMessageId[3]);
-}
+void QelCoLogicalException::setMsg(QelCoMsg* msg) const { setMsgHead(msg, QelMessageId[3]); }
 
 }  // namespace Velmor

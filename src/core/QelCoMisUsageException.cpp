@@ -27,8 +27,7 @@ QelCoMisUsageException::QelCoMisUsageException(QelCoMisUsageException const& oth
       m_qelCoMisUsageExceptionData(other.m_qelCoMisUsageExceptionData) {}
 
 QelCoMisUsageException& QelCoMisUsageException::operator=(QelCoMisUsageException const& other) {
-    if (this == &other)
-        return *this;
+    if (this == &other) return *this;
     QelCoRuntimeException::operator=(other);
     m_qelCoMisUsageExceptionData = other.m_qelCoMisUsageExceptionData;
     return *this;

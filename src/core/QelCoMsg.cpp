@@ -90,9 +90,7 @@ QelCoMsg::QelCoMsg(QelCoTSharedPtr<QelCoMsgFormatter> const& formatter) : QelCoM
     m_formatter = formatter;
 }
 
-QelCoMsg::QelCoMsg(QelCoMsgId const& id) : QelCoMsg() {
-    setMsgId(id);
-}
+QelCoMsg::QelCoMsg(QelCoMsgId const& id) : QelCoMsg() { setMsgId(id); }
 
 QelCoMsg::QelCoMsg(QelCoTSharedPtr<QelCoMsgFormatter> const& formatter, QelCoMsgId const& id)
     : QelCoMsg(id) {
@@ -104,8 +102,7 @@ QelCoMsg::QelCoMsg(QelCoMsg const& other)
       m_msgId(other.m_msgId),
       m_defaultMessage(other.m_defaultMessage),
       m_fileName(other.m_fileName) {
-    if (other.m_data.isNull())
-        return;
+    if (other.m_data.isNull()) return;
     try {
         m_data = new QelCoMsgData(*other.m_data);
     } catch (std::exception const&) {
@@ -114,14 +111,12 @@ QelCoMsg::QelCoMsg(QelCoMsg const& other)
 }
 
 QelCoMsg& QelCoMsg::operator=(QelCoMsg const& other) {
-    if (this == &other)
-        return *this;
+    if (this == &other) return *this;
     m_formatter = other.m_formatter;
     m_msgId = other.m_msgId;
     m_defaultMessage = other.m_defaultMessage;
     m_fileName = other.m_fileName;
-    if (!m_data.isNull() && !other.m_data.isNull())
-        m_data->copySlots(*other.m_data);
+    if (!m_data.isNull() && !other.m_data.isNull()) m_data->copySlots(*other.m_data);
     return *this;
 }
 
@@ -135,29 +130,22 @@ void QelCoMsg::setMsgId(QelCoMsgId const& id) {
     m_msgId = id.number;
     m_defaultMessage = id.defaultText;
     m_fileName = *id.base;
-    if (!m_data.isNull())
-        m_data->clear();
+    if (!m_data.isNull()) m_data->clear();
 }
 
 void QelCoMsg::error() {
-    if (m_formatter.isNull())
-        m_formatter = fs_getDefaultMessageFormatter();
-    if (!m_formatter.isNull())
-        m_formatter->error(*this);
+    if (m_formatter.isNull()) m_formatter = fs_getDefaultMessageFormatter();
+    if (!m_formatter.isNull()) m_formatter->error(*this);
 }
 
 void QelCoMsg::warn() {
-    if (m_formatter.isNull())
-        m_formatter = fs_getDefaultMessageFormatter();
-    if (!m_formatter.isNull())
-        m_formatter->warn(*this);
+    if (m_formatter.isNull()) m_formatter = fs_getDefaultMessageFormatter();
+    if (!m_formatter.isNull()) m_formatter->warn(*this);
 }
 
 void QelCoMsg::info() {
-    if (m_formatter.isNull())
-        m_formatter = fs_getDefaultMessageFormatter();
-    if (!m_formatter.isNull())
-        m_formatter->info(*this);
+    if (m_formatter.isNull()) m_formatter = fs_getDefaultMessageFormatter();
+    if (!m_formatter.isNull()) m_formatter->info(*this);
 }
 
 // This message's formatter, else the default one for this call only.
@@ -187,11 +175,9 @@ std::wstring QelCoMsg::wformatDefaultMsg() const {
 }
 
 void QelCoMsg::append(char const* text) {
-    if (m_data.isNull() || m_data->count >= QelCoMsgData::cs_maxArgs)
-        return;
+    if (m_data.isNull() || m_data->count >= QelCoMsgData::cs_maxArgs) return;
     char* slot = QelCoMsgData::fs_copy(text);
-    if (slot == nullptr)
-        return;
+    if (slot == nullptr) return;
     m_data->args[m_data->count++] = slot;
 }
 
@@ -241,8 +227,7 @@ static void fs_appendWide(QelCoMsg& msg, wchar_t const* text, std::size_t length
 }
 
 QelCoMsg& QelCoMsg::operator<<(std::wstring const& text) {
-    if (m_data.isNull() || m_data->count >= QelCoMsgData::cs_maxArgs)
-        return *this;
+    if (m_data.isNull() || m_data->count >= QelCoMsgData::cs_maxArgs) return *this;
     try {
         fs_appendWide(*this, text.c_str(), text.length());
     } catch (std::exception const&) {
@@ -252,8 +237,7 @@ QelCoMsg& QelCoMsg::operator<<(std::wstring const& text) {
 }
 
 QelCoMsg& QelCoMsg::operator<<(wchar_t const* text) {
-    if (m_data.isNull() || m_data->count >= QelCoMsgData::cs_maxArgs)
-        return *this;
+    if (m_data.isNull() || m_data->count >= QelCoMsgData::cs_maxArgs) return *this;
     try {
         fs_appendWide(*this, text, text == nullptr ? 0 : std::wcslen(text));
     } catch (std::exception const&) {
@@ -262,29 +246,18 @@ QelCoMsg& QelCoMsg::operator<<(wchar_t const* text) {
     return *this;
 }
 
-QelCoTSharedPtr<QelCoMsgFormatter> QelCoMsg::getMsgFormatter() const {
-    return m_formatter;
-}
+QelCoTSharedPtr<QelCoMsgFormatter> QelCoMsg::getMsgFormatter() const { return m_formatter; }
 
-int QelCoMsg::getMsgId() const {
-    return m_msgId;
-}
+int QelCoMsg::getMsgId() const { return m_msgId; }
 
-char const* QelCoMsg::getDefaultMessage() const {
-    return m_defaultMessage;
-}
+char const* QelCoMsg::getDefaultMessage() const { return m_defaultMessage; }
 
-char const* QelCoMsg::getFileName() const {
-    return m_fileName;
-}
+char const* QelCoMsg::getFileName() const { return m_fileName; }
 
-unsigned int QelCoMsg::getArgStrCount() const {
-    return m_data.isNull() ? 0 : m_data->count;
-}
+unsigned int QelCoMsg::getArgStrCount() const { return m_data.isNull() ? 0 : m_data->count; }
 
 char const* QelCoMsg::getArgStr(unsigned int index) const {
-    if (m_data.isNull() || index >= m_data->count)
-        return nullptr;
+    if (m_data.isNull() || index >= m_data->count) return nullptr;
     return m_data->args[index];
 }
 

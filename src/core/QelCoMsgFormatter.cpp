@@ -47,8 +47,7 @@ static std::size_t fs_putArgument(char* out, char const* text) {
 static std::size_t fs_putArgument(wchar_t* out, char const* text) {
     std::size_t length = std::strlen(text);
     std::size_t written = std::mbstowcs(out, text, length);
-    if (written != static_cast<std::size_t>(-1))
-        return written;
+    if (written != static_cast<std::size_t>(-1)) return written;
     for (std::size_t i = 0; i < length; ++i) {
         unsigned char byte = static_cast<unsigned char>(text[i]);
         out[i] = byte < 0x80 ? static_cast<wchar_t>(byte) : L'?';
@@ -56,9 +55,7 @@ static std::size_t fs_putArgument(wchar_t* out, char const* text) {
     return length;
 }
 
-static std::size_t fs_putText(char* out, char const* text) {
-    return fs_putArgument(out, text);
-}
+static std::size_t fs_putText(char* out, char const* text) { return fs_putArgument(out, text); }
 static std::size_t fs_putText(wchar_t* out, wchar_t const* text) {
     std::size_t length = std::wcslen(text);
     std::wmemcpy(out, text, length);
@@ -83,8 +80,7 @@ static void fs_substitute(Ch const* pattern, std::size_t length, QelCoMsg const&
         std::size_t size = length + 1;
         bool found = false;
         for (std::size_t i = 0; i + 1 < length; ++i) {
-            if (pattern[i] != Ch('%'))
-                continue;
+            if (pattern[i] != Ch('%')) continue;
             char const* argument = fs_argumentOf(msg, static_cast<int>(pattern[i + 1]));
             size = size - 2 + (argument != nullptr ? std::strlen(argument) : fs_nullTextLength);
             found = true;
@@ -156,16 +152,14 @@ static void fs_formatMessage(QelCoMsg const& msg, internalWStrBase& sink) {
 
 static void fs_formatDefaultMessage(QelCoMsg const& msg, internalStrBase& sink) {
     char const* pattern = msg.getDefaultMessage();
-    if (pattern == nullptr)
-        return;
+    if (pattern == nullptr) return;
     fs_substitute(pattern, std::strlen(pattern), msg, sink, QelCnfSysParams::cs_lineSeparator,
                   QelCnfSysParams::cs_endOfString);
 }
 
 std::wstring QelCoMsgFormatter::wformat(QelCoMsg const& msg) {
     std::wstring result;
-    if (!msg.hasArgStore())
-        return result;
+    if (!msg.hasArgStore()) return result;
     internalWStr sink(&result);
     fs_formatMessage(msg, sink);
     return result;
@@ -181,8 +175,7 @@ std::string QelCoMsgFormatter::format(QelCoMsg const& msg) {
 
 std::string QelCoMsgFormatter::formatDefaultMsg(QelCoMsg const& msg) {
     std::string result;
-    if (!msg.hasArgStore())
-        return result;
+    if (!msg.hasArgStore()) return result;
     internalStr sink(&result);
     fs_formatDefaultMessage(msg, sink);
     return result;

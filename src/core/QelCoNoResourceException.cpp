@@ -27,8 +27,7 @@ QelCoNoResourceException::QelCoNoResourceException(QelCoNoResourceException cons
 
 QelCoNoResourceException& QelCoNoResourceException::operator=(
     QelCoNoResourceException const& other) {
-    if (this == &other)
-        return *this;
+    if (this == &other) return *this;
     QelCoOperationFailureExceptionTrue::operator=(other);
     return *this;
 }

@@ -30,8 +30,7 @@ QelCoNullPointerException::QelCoNullPointerException(QelCoNullPointerException c
 
 QelCoNullPointerException& QelCoNullPointerException::operator=(
     QelCoNullPointerException const& other) {
-    if (this == &other)
-        return *this;
+    if (this == &other) return *this;
     QelCoLogicalException::operator=(other);
     m_qelCoNullPointerExceptionData = other.m_qelCoNullPointerExceptionData;
     return *this;
@@ -54,8 +53,7 @@ char const* QelCoNullPointerException::getParameterName() const {
 
 void QelCoNullPointerException::putTraceOn(QelCoTrace* trace) const {
     QelCoTrace& out = traceToPutOn(trace);
-    if (getParameterName() != nullptr)
-        out.do_arg("parameter", getParameterName(), 0);
+    if (getParameterName() != nullptr) out.do_arg("parameter", getParameterName(), 0);
 }
 
 }  // namespace Velmor

@@ -32,8 +32,7 @@ QelCoOperationFailureExceptionTrue::QelCoOperationFailureExceptionTrue(
 
 QelCoOperationFailureExceptionTrue& QelCoOperationFailureExceptionTrue::operator=(
     QelCoOperationFailureExceptionTrue const& other) {
-    if (this == &other)
-        return *this;
+    if (this == &other) return *this;
     QelCoRuntimeException::operator=(other);
     m_qelCoOperationFailureExceptionTrueData = other.m_qelCoOperationFailureExceptionTrueData;
     return *this;

@@ -24,16 +24,13 @@ QelCoOutOfMemoryException::QelCoOutOfMemoryException(QelCoOutOfMemoryException c
 
 QelCoOutOfMemoryException& QelCoOutOfMemoryException::operator=(
     QelCoOutOfMemoryException const& other) {
-    if (this == &other)
-        return *this;
+    if (this == &other) return *this;
     QelCoOperationFailureExceptionTrue::operator=(other);
     return *this;
 }
 
 QelCoOutOfMemoryException::~QelCoOutOfMemoryException() {}
 
-void QelCoOutOfMemoryException::setMsg(QelCoMsg* msg) const {
-    setMsgHead(msg, QelMessageId[8]);
-}
+void QelCoOutOfMemoryException::setMsg(QelCoMsg* msg) const { setMsgHead(msg, QelMessageId[8]); }
 
 }  // namespace Velmor

@@ -31,8 +31,7 @@ QelCoOutOfRangeException::QelCoOutOfRangeException(QelCoOutOfRangeException cons
 
 QelCoOutOfRangeException& QelCoOutOfRangeException::operator=(
     QelCoOutOfRangeException const& other) {
-    if (this == &other)
-        return *this;
+    if (this == &other) return *this;
     QelCoRuntimeException::operator=(other);
     m_qelCoOutOfRangeExceptionData = other.m_qelCoOutOfRangeExceptionData;
     return *this;

@@ -11,13 +11,10 @@ QelCoRTTI::QelCoRTTI(char const* className, QelCoRTTI const* const* parentRecord
 QelCoRTTI::~QelCoRTTI() {}
 
 int QelCoRTTI::instanceOf(QelCoRTTI const& other) const {
-    if (this == &other)
-        return 1;
-    if (parents == nullptr || parents[0] == nullptr)
-        return 0;
+    if (this == &other) return 1;
+    if (parents == nullptr || parents[0] == nullptr) return 0;
     for (QelCoRTTI const* const* parent = parents; *parent != nullptr; ++parent) {
-        if ((*parent)->instanceOf(other) == 1)
-            return 1;
+        if ((*parent)->instanceOf(other) == 1) return 1;
     }
     return 0;
 }

@@ -21,16 +21,13 @@ QelCoRuntimeException::QelCoRuntimeException(QelCoRuntimeException const& other)
     : QelCoException(other) {}
 
 QelCoRuntimeException& QelCoRuntimeException::operator=(QelCoRuntimeException const& other) {
-    if (this == &other)
-        return *this;
+    if (this == &other) return *this;
     QelCoException::operator=(other);
     return *this;
 }
 
 QelCoRuntimeException::~QelCoRuntimeException() {}
 
-void QelCoRuntimeException::setMsg(QelCoMsg* msg) const {
-    setMsgHead(msg, QelMessageId[2]);
-}
+void QelCoRuntimeException::setMsg(QelCoMsg* msg) const { setMsgHead(msg, QelMessageId[2]); }
 
 }  // namespace Velmor

@@ -14,17 +14,11 @@ QelCoStderrMsgFormatter::QelCoStderrMsgFormatter() {}
 
 QelCoStderrMsgFormatter::~QelCoStderrMsgFormatter() {}
 
-void QelCoStderrMsgFormatter::error(QelCoMsg const& msg) {
-    report(msg, "error: ");
-}
+void QelCoStderrMsgFormatter::error(QelCoMsg const& msg) { report(msg, "error: "); }
 
-void QelCoStderrMsgFormatter::warn(QelCoMsg const& msg) {
-    report(msg, "warn: ");
-}
+void QelCoStderrMsgFormatter::warn(QelCoMsg const& msg) { report(msg, "warn: "); }
 
-void QelCoStderrMsgFormatter::info(QelCoMsg const& msg) {
-    report(msg, "info: ");
-}
+void QelCoStderrMsgFormatter::info(QelCoMsg const& msg) { report(msg, "info: "); }
 
 void QelCoStderrMsgFormatter::report(QelCoMsg const& msg, char const* prefix) {
     std::string text = format(msg);

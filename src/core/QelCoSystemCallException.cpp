@@ -33,8 +33,7 @@ QelCoSystemCallException::QelCoSystemCallException(QelCoSystemCallException cons
 
 QelCoSystemCallException& QelCoSystemCallException::operator=(
     QelCoSystemCallException const& other) {
-    if (this == &other)
-        return *this;
+    if (this == &other) return *this;
     QelCoOperationFailureExceptionTrue::operator=(other);
     m_qelCoSystemCallExceptionData = other.m_qelCoSystemCallExceptionData;
     return *this;
@@ -47,9 +46,7 @@ void QelCoSystemCallException::setMsg(QelCoMsg* msg) const {
     *msg << getFailedOperationName() << getErrNo();
 }
 
-int QelCoSystemCallException::getErrNo() const {
-    return m_qelCoSystemCallExceptionData.errNo;
-}
+int QelCoSystemCallException::getErrNo() const { return m_qelCoSystemCallExceptionData.errNo; }
 
 void QelCoSystemCallException::putTraceOn(QelCoTrace* trace) const {
     QelCoTrace& out = traceToPutOn(trace);

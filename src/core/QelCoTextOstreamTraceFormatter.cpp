@@ -28,18 +28,14 @@ static char const* const libraryNameByCoText[] = {"stdlib", "qellib", "userlib"}
 static char const* const fs_nullText = "(null)";
 static char const* const fs_className = "QelCoTextOstreamTraceFormatter";
 
-static char const* fs_orNull(char const* text) {
-    return text != nullptr ? text : fs_nullText;
-}
+static char const* fs_orNull(char const* text) { return text != nullptr ? text : fs_nullText; }
 
 // "keyword Class::method()"; a null class or method is left out with its separator.
 static void fs_makeMessageStringByCoText(std::ostream& stream, char const* keyword,
                                          char const* className, char const* methodName) {
     stream << keyword << ' ';
-    if (className != nullptr)
-        stream << className << "::";
-    if (methodName != nullptr)
-        stream << methodName << "()";
+    if (className != nullptr) stream << className << "::";
+    if (methodName != nullptr) stream << methodName << "()";
     stream << '\n';
 }
 
@@ -50,28 +46,24 @@ static void fs_makeTextLineByCoText(std::ostream& stream, char const* keyword, c
 
 QelCoTextOstreamTraceFormatter::QelCoTextOstreamTraceFormatter(std::ostream* stream, int flags)
     : m_stream(stream), m_flags(flags) {
-    if (stream == nullptr)
-        g_qelCoNullCheckFailed(fs_className, fs_className, "pOutStream");
+    if (stream == nullptr) g_qelCoNullCheckFailed(fs_className, fs_className, "pOutStream");
 }
 
 QelCoTextOstreamTraceFormatter::QelCoTextOstreamTraceFormatter(char const* fileName, int flags)
     : m_stream(nullptr), m_flags(flags | cs_ownsStream) {
-    if (fileName == nullptr)
-        g_qelCoNullCheckFailed(fs_className, fs_className, "cszFileName");
+    if (fileName == nullptr) g_qelCoNullCheckFailed(fs_className, fs_className, "cszFileName");
     try {
         m_stream = new std::ofstream(fileName, std::ios::out | std::ios::trunc);
     } catch (std::exception const&) {
         m_stream = nullptr;
     }
-    if (m_stream == nullptr)
-        g_qelCoNewMemoryFailed(fs_className, fs_className);
+    if (m_stream == nullptr) g_qelCoNewMemoryFailed(fs_className, fs_className);
 }
 
 QelCoTextOstreamTraceFormatter::~QelCoTextOstreamTraceFormatter() {
     try {
         m_stream->flush();
-        if ((m_flags & cs_ownsStream) != 0)
-            delete m_stream;
+        if ((m_flags & cs_ownsStream) != 0) delete m_stream;
     } catch (...) {
         // A stream that fails while closing loses its last lines; the formatter still goes.
     }
@@ -81,17 +73,13 @@ void QelCoTextOstreamTraceFormatter::enter(char const* className, char const* me
     fs_makeMessageStringByCoText(*m_stream, traceMsgByCoText[fs_enterKey], className, methodName);
 }
 
-void QelCoTextOstreamTraceFormatter::enter(char const* methodName) {
-    enter(nullptr, methodName);
-}
+void QelCoTextOstreamTraceFormatter::enter(char const* methodName) { enter(nullptr, methodName); }
 
 void QelCoTextOstreamTraceFormatter::exit(char const* className, char const* methodName) {
     fs_makeMessageStringByCoText(*m_stream, traceMsgByCoText[fs_exitKey], className, methodName);
 }
 
-void QelCoTextOstreamTraceFormatter::exit(char const* methodName) {
-    exit(nullptr, methodName);
-}
+void QelCoTextOstreamTraceFormatter::exit(char const* methodName) { exit(nullptr, methodName); }
 
 void QelCoTextOstreamTraceFormatter::arg(char const* name, long value) {
     *m_stream << traceMsgByCoText[fs_argKey] << ' ' << fs_orNull(name) << ' ' << value << '\n';
@@ -104,12 +92,10 @@ void QelCoTextOstreamTraceFormatter::arg(char const* name, std::string const& va
 void QelCoTextOstreamTraceFormatter::arg(char const* name, void const* bytes, unsigned int length) {
     std::ostream& stream = *m_stream;
     stream << traceMsgByCoText[fs_argKey] << ' ';
-    if (name != nullptr)
-        stream << name << ' ';
+    if (name != nullptr) stream << name << ' ';
     signed char const* byte = static_cast<signed char const*>(bytes);
     for (unsigned int i = 0; i < length; ++i) {
-        if (i % 8 == 0)
-            stream << '\n';
+        if (i % 8 == 0) stream << '\n';
         char hex[16];
         std::snprintf(hex, sizeof hex, "%.8x ", static_cast<unsigned int>(int(byte[i])));
         stream << hex;
@@ -121,9 +107,7 @@ void QelCoTextOstreamTraceFormatter::call(char const* className, char const* met
     fs_makeMessageStringByCoText(*m_stream, traceMsgByCoText[fs_callKey], className, methodName);
 }
 
-void QelCoTextOstreamTraceFormatter::call(char const* methodName) {
-    call(nullptr, methodName);
-}
+void QelCoTextOstreamTraceFormatter::call(char const* methodName) { call(nullptr, methodName); }
 
 void QelCoTextOstreamTraceFormatter::returned(char const* className, char const* methodName) {
     fs_makeMessageStringByCoText(*m_stream, traceMsgByCoText[fs_returnKey], className, methodName);
@@ -156,8 +140,6 @@ void QelCoTextOstreamTraceFormatter::exception(exceptionGroup group, char const*
               << fs_orNull(text) << '\n';
 }
 
-void QelCoTextOstreamTraceFormatter::flush() {
-    m_stream->flush();
-}
+void QelCoTextOstreamTraceFormatter::flush() { m_stream->flush(); }
 
 }  // namespace Velmor

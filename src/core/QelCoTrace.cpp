@@ -28,8 +28,7 @@ static void fs_open(QelCoTraceData& data, QelCoTraceFormatter* formatter, char c
     data.threshold = formatter != nullptr ? threshold : QelCoTrace::cs_thresholdOff;
     data.entered = fs_outCallStackFlg != 0 ? 2 : 0;
     data.callLevel = 0;
-    if (!fs_sends(data, level))
-        return;
+    if (!fs_sends(data, level)) return;
     if (className != nullptr) {
         formatter->enter(className, methodName);
     } else {
@@ -43,8 +42,7 @@ static int fs_quieterThreshold(int threshold) {
 }
 
 static char const* fs_classNameOf(QelCoObject const* object) {
-    if (object == nullptr)
-        g_qelCoNullCheckFailed("QelCoTraceData", "QelCoTraceData", "pObject");
+    if (object == nullptr) g_qelCoNullCheckFailed("QelCoTraceData", "QelCoTraceData", "pObject");
     return object->getClassName();
 }
 
@@ -83,20 +81,15 @@ void QelCoTrace::do_construct(char const* methodName, int threshold, int level) 
     fs_open(m_data, fs_pFormatter, nullptr, methodName, fs_quieterThreshold(threshold), level);
 }
 
-void QelCoTrace::do_construct(QelCoTrace const& other) {
-    m_data = other.m_data;
-}
+void QelCoTrace::do_construct(QelCoTrace const& other) { m_data = other.m_data; }
 
 void QelCoTrace::do_assign(QelCoTrace const& other) {
-    if (this != &other)
-        m_data = other.m_data;
+    if (this != &other) m_data = other.m_data;
 }
 
 void QelCoTrace::do_destruct() {
-    if (m_data.formatter == nullptr)
-        return;
-    if (fs_outCallStackFlg == 0 && m_data.entered != 1)
-        return;
+    if (m_data.formatter == nullptr) return;
+    if (fs_outCallStackFlg == 0 && m_data.entered != 1) return;
     if (m_data.className != nullptr) {
         m_data.formatter->exit(m_data.className, m_data.methodName);
     } else {
@@ -105,13 +98,11 @@ void QelCoTrace::do_destruct() {
 }
 
 void QelCoTrace::do_arg(char const* name, long value, int level) {
-    if (fs_sends(m_data, level))
-        m_data.formatter->arg(name, value);
+    if (fs_sends(m_data, level)) m_data.formatter->arg(name, value);
 }
 
 void QelCoTrace::do_arg(char const* name, std::string const& value, int level) {
-    if (fs_sends(m_data, level))
-        m_data.formatter->arg(name, value);
+    if (fs_sends(m_data, level)) m_data.formatter->arg(name, value);
 }
 
 void QelCoTrace::do_arg(char const* name, char const* value, int level) {
@@ -121,13 +112,11 @@ void QelCoTrace::do_arg(char const* name, char const* value, int level) {
 
 void QelCoTrace::do_argByteArray(char const* name, void const* bytes, unsigned int length,
                                  int level) {
-    if (fs_sends(m_data, level))
-        m_data.formatter->arg(name, bytes, length);
+    if (fs_sends(m_data, level)) m_data.formatter->arg(name, bytes, length);
 }
 
 void QelCoTrace::do_call(QelCoObject const* object, char const* methodName, int level) {
-    if (object == nullptr)
-        g_qelCoNullCheckFailed("QelCoTrace", "do_call", "pObject");
+    if (object == nullptr) g_qelCoNullCheckFailed("QelCoTrace", "do_call", "pObject");
     do_call(object->getClassName(), methodName, level);
 }
 
@@ -135,8 +124,7 @@ void QelCoTrace::do_call(char const* className, char const* methodName, int leve
     m_data.calledClassName = className;
     m_data.calledMethodName = methodName;
     m_data.callLevel = level;
-    if (!fs_sends(m_data, level))
-        return;
+    if (!fs_sends(m_data, level)) return;
     if (className != nullptr) {
         m_data.formatter->call(className, methodName);
     } else {
@@ -149,8 +137,7 @@ void QelCoTrace::do_call(char const* methodName, int level) {
 }
 
 void QelCoTrace::do_return() {
-    if (!fs_sends(m_data, m_data.callLevel))
-        return;
+    if (!fs_sends(m_data, m_data.callLevel)) return;
     if (m_data.calledClassName != nullptr) {
         m_data.formatter->returned(m_data.calledClassName, m_data.calledMethodName);
     } else {
@@ -159,28 +146,23 @@ void QelCoTrace::do_return() {
 }
 
 void QelCoTrace::do_mark(char const* text, int level) {
-    if (fs_sends(m_data, level))
-        m_data.formatter->mark(text);
+    if (fs_sends(m_data, level)) m_data.formatter->mark(text);
 }
 
 void QelCoTrace::do_time(char const* text, int level) {
-    if (fs_sends(m_data, level))
-        m_data.formatter->time(text);
+    if (fs_sends(m_data, level)) m_data.formatter->time(text);
 }
 
 void QelCoTrace::do_error(char const* text, int level) {
-    if (fs_sends(m_data, level))
-        m_data.formatter->error(text);
+    if (fs_sends(m_data, level)) m_data.formatter->error(text);
 }
 
 void QelCoTrace::do_warn(char const* text, int level) {
-    if (fs_sends(m_data, level))
-        m_data.formatter->warn(text);
+    if (fs_sends(m_data, level)) m_data.formatter->warn(text);
 }
 
 void QelCoTrace::do_caught(QelCoException const& exception, int level) {
-    if (!fs_sends(m_data, level))
-        return;
+    if (!fs_sends(m_data, level)) return;
     m_data.formatter->mark("Exception Begin");
     m_data.formatter->exception(QelCoTraceFormatter::qellibGroup, exception.getClassName());
     exception.putTraceOn(this);
@@ -188,43 +170,30 @@ void QelCoTrace::do_caught(QelCoException const& exception, int level) {
 }
 
 void QelCoTrace::do_caught(std::exception const& exception, int level) {
-    if (!fs_sends(m_data, level))
-        return;
+    if (!fs_sends(m_data, level)) return;
     m_data.formatter->mark("Exception Begin");
     m_data.formatter->exception(QelCoTraceFormatter::stdlibGroup, exception.what());
     m_data.formatter->mark("Exception End");
 }
 
 void QelCoTrace::do_flush() {
-    if (m_data.formatter != nullptr)
-        m_data.formatter->flush();
+    if (m_data.formatter != nullptr) m_data.formatter->flush();
 }
 
-char const* QelCoTrace::getClassName() const {
-    return m_data.className;
-}
+char const* QelCoTrace::getClassName() const { return m_data.className; }
 
-char const* QelCoTrace::getMethodName() const {
-    return m_data.methodName;
-}
+char const* QelCoTrace::getMethodName() const { return m_data.methodName; }
 
 void QelCoTrace::cs_enableTrace(QelCoTraceFormatter* formatter, int threshold) {
-    if (formatter == nullptr)
-        g_qelCoNullCheckFailed("QelCoTrace", "cs_enableTrace", "pFormatter");
+    if (formatter == nullptr) g_qelCoNullCheckFailed("QelCoTrace", "cs_enableTrace", "pFormatter");
     fs_pFormatter = formatter;
     fs_threshold = threshold;
 }
 
-void QelCoTrace::cs_disableTrace() {
-    fs_threshold = cs_thresholdOff;
-}
+void QelCoTrace::cs_disableTrace() { fs_threshold = cs_thresholdOff; }
 
-void QelCoTrace::cs_enableOutCallStack() {
-    fs_outCallStackFlg = 1;
-}
+void QelCoTrace::cs_enableOutCallStack() { fs_outCallStackFlg = 1; }
 
-void QelCoTrace::cs_disableOutCallStack() {
-    fs_outCallStackFlg = 0;
-}
+void QelCoTrace::cs_disableOutCallStack() { fs_outCallStackFlg = 0; }
 
 }  // namespace Velmor

@@ -15,8 +15,7 @@ class QelLogOstreamMsgFormatterData {
     QelLogOstreamMsgFormatterData(std::ostream* target, int owns, int withoutPrefix)
         : stream(target), ownsStream(owns), noPrefix(withoutPrefix) {}
     ~QelLogOstreamMsgFormatterData() {
-        if (ownsStream != 0)
-            delete stream;
+        if (ownsStream != 0) delete stream;
     }
     QelLogOstreamMsgFormatterData(QelLogOstreamMsgFormatterData const&) = delete;
     QelLogOstreamMsgFormatterData& operator=(QelLogOstreamMsgFormatterData const&) = delete;
@@ -24,11 +23,9 @@ class QelLogOstreamMsgFormatterData {
     // One line: the prefix unless noPrefix, then the filled text; without one the unfilled
     // default text; without that "MessageID=" and the number. Nothing for a null stream.
     void report(QelCoMsg const& msg, char const* prefix) {
-        if (stream == nullptr)
-            return;
+        if (stream == nullptr) return;
         std::string text = msg.format();
-        if (noPrefix == 0)
-            *stream << prefix;
+        if (noPrefix == 0) *stream << prefix;
         if (!text.empty()) {
             *stream << text << std::endl;
         } else if (msg.getDefaultMessage() != nullptr) {
@@ -67,18 +64,15 @@ QelLogOstreamMsgFormatter::QelLogOstreamMsgFormatter(std::ostream* stream, int o
 QelLogOstreamMsgFormatter::~QelLogOstreamMsgFormatter() {}
 
 void QelLogOstreamMsgFormatter::error(QelCoMsg const& msg) {
-    if (!m_data.isNull())
-        m_data->report(msg, "error: ");
+    if (!m_data.isNull()) m_data->report(msg, "error: ");
 }
 
 void QelLogOstreamMsgFormatter::warn(QelCoMsg const& msg) {
-    if (!m_data.isNull())
-        m_data->report(msg, "warn: ");
+    if (!m_data.isNull()) m_data->report(msg, "warn: ");
 }
 
 void QelLogOstreamMsgFormatter::info(QelCoMsg const& msg) {
-    if (!m_data.isNull())
-        m_data->report(msg, "info: ");
+    if (!m_data.isNull()) m_data->report(msg, "info: ");
 }
 
 }  // namespace Velmor

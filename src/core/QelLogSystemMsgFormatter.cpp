@@ -42,16 +42,10 @@ QelLogSystemMsgFormatter::QelLogSystemMsgFormatter() {
 
 QelLogSystemMsgFormatter::~QelLogSystemMsgFormatter() {}
 
-void QelLogSystemMsgFormatter::error(QelCoMsg const& msg) {
-    fs_report(msg, LOG_ERR);
-}
+void QelLogSystemMsgFormatter::error(QelCoMsg const& msg) { fs_report(msg, LOG_ERR); }
 
-void QelLogSystemMsgFormatter::warn(QelCoMsg const& msg) {
-    fs_report(msg, LOG_WARNING);
-}
+void QelLogSystemMsgFormatter::warn(QelCoMsg const& msg) { fs_report(msg, LOG_WARNING); }
 
-void QelLogSystemMsgFormatter::info(QelCoMsg const& msg) {
-    fs_report(msg, LOG_INFO);
-}
+void QelLogSystemMsgFormatter::info(QelCoMsg const& msg) { fs_report(msg, LOG_INFO); }
 
 }  // namespace Velmor

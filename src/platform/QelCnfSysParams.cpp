@@ -49,17 +49,11 @@ static struct utsname* fs_uname(char const* operation) {
     return &systemName;
 }
 
-char const* QelCnfSysParams::cs_osName() {
-    return fs_uname("cs_osName")->sysname;
-}
+char const* QelCnfSysParams::cs_osName() { return fs_uname("cs_osName")->sysname; }
 
-char const* QelCnfSysParams::cs_osVersion() {
-    return fs_uname("cs_osVersion")->release;
-}
+char const* QelCnfSysParams::cs_osVersion() { return fs_uname("cs_osVersion")->release; }
 
-char const* QelCnfSysParams::cs_osArch() {
-    return "Unknown";
-}
+char const* QelCnfSysParams::cs_osArch() { return "Unknown"; }
 
 char const* QelCnfSysParams::cs_userDir() {
     if (QelOsUnix::cs_getcwd(fs_cszCurrentDir, sizeof fs_cszCurrentDir - 1) == nullptr) {
@@ -68,8 +62,6 @@ char const* QelCnfSysParams::cs_userDir() {
     return fs_cszCurrentDir;
 }
 
-int QelCnfSysParams::cs_getCurrentProcessId() {
-    return static_cast<int>(::getpid());
-}
+int QelCnfSysParams::cs_getCurrentProcessId() { return static_cast<int>(::getpid()); }
 
 }  // namespace Velmor

@@ -21,8 +21,7 @@ static int fs_fault(char const* callName) {
 // For calls that report through errno: true (with errno set) when the hook makes them fail.
 static bool fs_faultErrno(char const* callName) {
     int error = fs_fault(callName);
-    if (error == 0)
-        return false;
+    if (error == 0) return false;
     errno = error;
     return true;
 }
@@ -47,105 +46,88 @@ QelOsUnixFaultHook QelOsUnix::cs_setFaultHook(QelOsUnixFaultHook hook) {
 }
 
 int QelOsUnix::cs_open(char const* path, int flags) {
-    if (fs_faultErrno("open"))
-        return -1;
+    if (fs_faultErrno("open")) return -1;
     return ::open(path, flags);
 }
 
 int QelOsUnix::cs_open(char const* path, int flags, int mode) {
-    if (fs_faultErrno("open"))
-        return -1;
+    if (fs_faultErrno("open")) return -1;
     return ::open(path, flags, mode);
 }
 
 int QelOsUnix::cs_creat(char const* path, int mode) {
-    if (fs_faultErrno("creat"))
-        return -1;
+    if (fs_faultErrno("creat")) return -1;
     return ::creat(path, mode);
 }
 
 int QelOsUnix::cs_close(int fd) {
-    if (fs_faultErrno("close"))
-        return -1;
+    if (fs_faultErrno("close")) return -1;
     return ::close(fd);
 }
 
 int QelOsUnix::cs_read(int fd, void* buffer, unsigned int size) {
-    if (fs_faultErrno("read"))
-        return -1;
+    if (fs_faultErrno("read")) return -1;
     return static_cast<int>(::read(fd, buffer, size));
 }
 
 int QelOsUnix::cs_write(int fd, void const* buffer, unsigned int size) {
-    if (fs_faultErrno("write"))
-        return -1;
+    if (fs_faultErrno("write")) return -1;
     return static_cast<int>(::write(fd, buffer, size));
 }
 
 DIR* QelOsUnix::cs_opendir(char const* path) {
-    if (fs_faultErrno("opendir"))
-        return nullptr;
+    if (fs_faultErrno("opendir")) return nullptr;
     return ::opendir(path);
 }
 
 int QelOsUnix::cs_closedir(DIR* dir) {
-    if (fs_faultErrno("closedir"))
-        return -1;
+    if (fs_faultErrno("closedir")) return -1;
     return ::closedir(dir);
 }
 
 struct dirent* QelOsUnix::cs_readdir(DIR* dir) {
-    if (fs_faultErrno("readdir"))
-        return nullptr;
+    if (fs_faultErrno("readdir")) return nullptr;
     return ::readdir(dir);
 }
 
 int QelOsUnix::cs_rename(char const* from, char const* to) {
-    if (fs_faultErrno("rename"))
-        return -1;
+    if (fs_faultErrno("rename")) return -1;
     return std::rename(from, to);
 }
 
 int QelOsUnix::cs_access(char const* path, int mode) {
-    if (fs_faultErrno("access"))
-        return -1;
+    if (fs_faultErrno("access")) return -1;
     return ::access(path, mode);
 }
 
 char* QelOsUnix::cs_getcwd(char* buffer, unsigned int size) {
-    if (fs_faultErrno("getcwd"))
-        return nullptr;
+    if (fs_faultErrno("getcwd")) return nullptr;
     return ::getcwd(buffer, size);
 }
 
 int QelOsUnix::cs_uname(struct utsname* name) {
-    if (fs_faultErrno("uname"))
-        return -1;
+    if (fs_faultErrno("uname")) return -1;
     return ::uname(name);
 }
 
 int QelOsUnix::cs_stat(char const* path, struct stat* result) {
-    if (fs_faultErrno("stat"))
-        return -1;
+    if (fs_faultErrno("stat")) return -1;
     return ::stat(path, result);
 }
 
 int QelOsUnix::cs_file_delete(char const* path) {
-    if (fs_faultErrno("unlink"))
-        return -1;
+    if (fs_faultErrno("unlink")) return -1;
     return ::unlink(path);
 }
 
 int QelOsUnix::cs_dir_delete(char const* path) {
-    if (fs_faultErrno("unlink"))
-        return -1;
+    if (fs_faultErrno("unlink")) return -1;
     return ::unlink(path);
 }
 
 // The pthread calls return their error number; a fault replaces it.
-#define QEL_OS_PTHREAD_CALL(name, call) \
-    if (int error = fs_fault(name))     \
-        return error;                   \
+#define QEL_OS_PTHREAD_CALL(name, call)           \
+    if (int error = fs_fault(name)) return error; \
     return call
 
 int QelOsUnix::cs_pthread_create(pthread_t* thread, pthread_attr_t const* attr,
@@ -223,9 +205,7 @@ int QelOsUnix::cs_pthread_setspecific(pthread_key_t key, void const* value) {
     QEL_OS_PTHREAD_CALL("pthread_setspecific", ::pthread_setspecific(key, value));
 }
 
-void* QelOsUnix::cs_pthread_getspecific(pthread_key_t key) {
-    return ::pthread_getspecific(key);
-}
+void* QelOsUnix::cs_pthread_getspecific(pthread_key_t key) { return ::pthread_getspecific(key); }
 
 int QelOsUnix::cs_pthread_key_delete(pthread_key_t key) {
     QEL_OS_PTHREAD_CALL("pthread_key_delete", ::pthread_key_delete(key));
@@ -262,17 +242,11 @@ int QelOsUnix::cs_pthread_attr_setinheritsched(pthread_attr_t* attr) {
                         ::pthread_attr_setinheritsched(attr, PTHREAD_EXPLICIT_SCHED));
 }
 
-int QelOsUnix::cs_pthread_attr_setscope(pthread_attr_t*) {
-    return 0;
-}
+int QelOsUnix::cs_pthread_attr_setscope(pthread_attr_t*) { return 0; }
 
-int QelOsUnix::cs_pthread_attr_setdetachstate(pthread_attr_t*) {
-    return 0;
-}
+int QelOsUnix::cs_pthread_attr_setdetachstate(pthread_attr_t*) { return 0; }
 
-unsigned long QelOsUnix::cs_pthread_getunique(unsigned long* thread) {
-    return *thread;
-}
+unsigned long QelOsUnix::cs_pthread_getunique(unsigned long* thread) { return *thread; }
 
 int QelOsUnix::cs_pthread_mutexattr_init(pthread_mutexattr_t* attr) {
     QEL_OS_PTHREAD_CALL("pthread_mutexattr_init", ::pthread_mutexattr_init(attr));
@@ -296,8 +270,7 @@ int QelOsUnix::cs_clock_gettime(int, timespec* result) {
 
 int QelOsUnix::cs_pthread_get_expiration(timespec* delay, timespec* result) {
     timeval now;
-    if (::gettimeofday(&now, nullptr) != 0)
-        return errno;
+    if (::gettimeofday(&now, nullptr) != 0) return errno;
     result->tv_sec = now.tv_sec + delay->tv_sec;
     result->tv_nsec = 0;
     return 0;

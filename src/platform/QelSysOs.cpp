@@ -11,13 +11,9 @@ namespace Velmor {
 // Keeps the moment when cs_getUmask has set the mask to 0 from other QelSysOs calls.
 static QelMtLockable fs_lockBySysOs;
 
-unsigned int QelSysOs::qel_sleep(unsigned int seconds) {
-    return ::sleep(seconds);
-}
+unsigned int QelSysOs::qel_sleep(unsigned int seconds) { return ::sleep(seconds); }
 
-unsigned int QelSysOs::sleep(unsigned int seconds) {
-    return qel_sleep(seconds);
-}
+unsigned int QelSysOs::sleep(unsigned int seconds) { return qel_sleep(seconds); }
 
 void QelSysOs::sleepForMilliSeconds(unsigned long milliSeconds) {
     timespec request;

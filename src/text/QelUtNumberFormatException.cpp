@@ -22,8 +22,7 @@ QelUtNumberFormatException::QelUtNumberFormatException(QelCoObject const* object
                                                        char const* methodName, char const* illegal)
     : QelCoLogicalException(object, methodName), m_qelUtNumberFormatExceptionData(illegal) {}
 
-QelUtNumberFormatException::QelUtNumberFormatException(QelCoTrace const& trace,
-                                                       char const* illegal)
+QelUtNumberFormatException::QelUtNumberFormatException(QelCoTrace const& trace, char const* illegal)
     : QelCoLogicalException(trace), m_qelUtNumberFormatExceptionData(illegal) {}
 
 QelUtNumberFormatException::QelUtNumberFormatException(QelUtNumberFormatException const& other)
@@ -32,8 +31,7 @@ QelUtNumberFormatException::QelUtNumberFormatException(QelUtNumberFormatExceptio
 
 QelUtNumberFormatException& QelUtNumberFormatException::operator=(
     QelUtNumberFormatException const& other) {
-    if (this == &other)
-        return *this;
+    if (this == &other) return *this;
     QelCoLogicalException::operator=(other);
     m_qelUtNumberFormatExceptionData = other.m_qelUtNumberFormatExceptionData;
     return *this;

@@ -20,9 +20,7 @@ static std::size_t fs_limit(std::size_t length, unsigned int n) {
     return n != QelUtNumberText::cs_npos && n < length ? n : length;
 }
 
-static bool fs_isDigit(char c) {
-    return std::isdigit(static_cast<unsigned char>(c)) != 0;
-}
+static bool fs_isDigit(char c) { return std::isdigit(static_cast<unsigned char>(c)) != 0; }
 
 // Where a number must start: behind white space and one sign, which must leave a digit.
 // Returns the position of that digit and sets `negative`; throws otherwise.
@@ -31,24 +29,20 @@ static std::size_t fs_numberStart(char const* text, std::size_t limit, char cons
     std::size_t pos = 0;
     while (pos < limit && std::isspace(static_cast<unsigned char>(text[pos])) != 0)
         ++pos;
-    if (pos >= limit)
-        throw QelUtNumberFormatException(className, methodName, text);
+    if (pos >= limit) throw QelUtNumberFormatException(className, methodName, text);
     negative = text[pos] == '-';
     if (text[pos] == '+' || text[pos] == '-') {
         ++pos;
-        if (pos >= limit)
-            throw QelUtNumberFormatException(className, methodName, text);
+        if (pos >= limit) throw QelUtNumberFormatException(className, methodName, text);
     }
-    if (!fs_isDigit(text[pos]))
-        throw QelUtNumberFormatException(className, methodName, text);
+    if (!fs_isDigit(text[pos])) throw QelUtNumberFormatException(className, methodName, text);
     return pos;
 }
 
 // Runs `convert` on the whole text, or on a terminated copy of its first `limit` characters.
 template <class Convert>
 static auto fs_onPrefix(char const* text, std::size_t limit, bool whole, Convert convert) {
-    if (whole)
-        return convert(text);
+    if (whole) return convert(text);
     if (limit < fs_stackTextSize) {
         char copy[fs_stackTextSize];
         std::memcpy(copy, text, limit);
@@ -83,8 +77,7 @@ int QelUtNumberText::hexStrToInt(char const* text, std::size_t length, unsigned 
     std::size_t end = pos;
     while (end < limit && std::isxdigit(static_cast<unsigned char>(text[end])) != 0)
         ++end;
-    if (end == pos)
-        throw QelUtNumberFormatException(className, "hexStrToInt", text);
+    if (end == pos) throw QelUtNumberFormatException(className, "hexStrToInt", text);
     // From the last digit up, each 4 bits further left; digits past the eighth from the right
     // fall outside the 32 bits of the result.
     unsigned int value = 0;
@@ -150,8 +143,7 @@ double QelUtNumberText::thousandsSepToDouble(char const* text, std::size_t lengt
         work = &heapWork[0];
     }
     std::size_t out = 0;
-    if (negative)
-        work[out++] = '-';
+    if (negative) work[out++] = '-';
     while (pos < length) {
         if (separatorLength > 0 && text[pos] == separator[0] &&
             std::strncmp(text + pos, separator, separatorLength) == 0) {
@@ -221,8 +213,7 @@ void QelUtNumberText::intToThousandsSep(QelUtTextSink& sink, int value) {
     std::size_t count = static_cast<std::size_t>(end - digits);
     char text[16 + 16 * 4];
     std::size_t out = 0;
-    if (value < 0)
-        text[out++] = '-';
+    if (value < 0) text[out++] = '-';
     std::size_t group = fs_firstGroup(count);
     for (std::size_t i = 0; i < count; ++i) {
         if (i == group) {
@@ -243,8 +234,7 @@ void QelUtNumberText::doubleToThousandsSep(QelUtTextSink& sink, double value, un
     char separator = conventions->thousands_sep[0];
     char const* decimalPoint = conventions->decimal_point;
     bool negative = value < 0;
-    if (negative)
-        value = -value;
+    if (negative) value = -value;
     // "%.*f" with the precision as argument prints as "%.<digits>f" would.
     int precision = static_cast<int>(digits < fs_maxDigits ? digits : fs_maxDigits);
     char stackText[fs_stackTextSize];
@@ -269,13 +259,11 @@ void QelUtNumberText::doubleToThousandsSep(QelUtTextSink& sink, double value, un
         result = &heapResult[0];
     }
     std::size_t out = 0;
-    if (negative)
-        result[out++] = '-';
+    if (negative) result[out++] = '-';
     std::size_t group = fs_firstGroup(integerEnd);
     for (std::size_t i = 0; i < length; ++i) {
         if (i == group && i < integerEnd) {
-            if (separator != '\0')
-                result[out++] = separator;
+            if (separator != '\0') result[out++] = separator;
             group += 3;
         }
         result[out++] = text[i];

@@ -10,8 +10,6 @@ QelComtUnlocker::QelComtUnlocker(QelComtLockable* lockable) : m_lockable(lockabl
     }
 }
 
-QelComtUnlocker::~QelComtUnlocker() {
-    m_lockable->unlock();
-}
+QelComtUnlocker::~QelComtUnlocker() { m_lockable->unlock(); }
 
 }  // namespace Velmor

@@ -47,8 +47,7 @@ QelMtLockable::QelMtLockable() {
     } catch (std::exception const&) {
         data = nullptr;
     }
-    if (data == nullptr)
-        g_qelCoNewMemoryFailed(fs_cszLockableName, fs_cszLockableName);
+    if (data == nullptr) g_qelCoNewMemoryFailed(fs_cszLockableName, fs_cszLockableName);
 
     int error = QelOsUnix::cs_pthread_mutexattr_init(&data->attributes);
     if (error != 0) {
@@ -74,15 +73,13 @@ QelMtLockable::QelMtLockable() {
 }
 
 QelMtLockable::~QelMtLockable() {
-    if (m_data.isNull())
-        return;
+    if (m_data.isNull()) return;
     QelOsUnix::cs_pthread_mutexattr_destroy(&m_data->attributes);
     QelOsUnix::cs_pthread_mutex_destroy(&m_data->mutex);
 }
 
 void QelMtLockable::lock() {
-    if (m_data.isNull())
-        g_qelCoUsageCheckFailed(fs_cszLockableName, "lock", QelMessageId[33]);
+    if (m_data.isNull()) g_qelCoUsageCheckFailed(fs_cszLockableName, "lock", QelMessageId[33]);
     int error = QelOsUnix::cs_pthread_mutex_lock(&m_data->mutex);
     if (error != 0) {
         fs_throwExceptionByMtLockable(fs_cszLockableName, "lock", QelMtStringData::cs_MutexLock,
@@ -91,8 +88,7 @@ void QelMtLockable::lock() {
 }
 
 void QelMtLockable::unlock() {
-    if (m_data.isNull())
-        g_qelCoUsageCheckFailed(fs_cszLockableName, "unlock", QelMessageId[33]);
+    if (m_data.isNull()) g_qelCoUsageCheckFailed(fs_cszLockableName, "unlock", QelMessageId[33]);
     int error = QelOsUnix::cs_pthread_mutex_unlock(&m_data->mutex);
     if (error != 0) {
         fs_throwExceptionByMtLockable(fs_cszLockableName, "unlock", QelMtStringData::cs_MutexUnlock,
@@ -105,10 +101,8 @@ bool QelMtLockable::tryLock() {
         g_qelCoUsageCheckFailed(fs_cszLockableName, "tryLock", QelMessageId[33]);
     }
     int error = QelOsUnix::cs_pthread_mutex_trylock(&m_data->mutex);
-    if (error == 0)
-        return true;
-    if (error == EBUSY)
-        return false;
+    if (error == 0) return true;
+    if (error == EBUSY) return false;
     fs_throwExceptionByMtLockable(fs_cszLockableName, "tryLock", QelMtStringData::cs_MutexLock,
                                   error);
 }

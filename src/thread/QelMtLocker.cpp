@@ -5,8 +5,7 @@
 namespace Velmor {
 
 QelMtLocker::QelMtLocker(QelMtLockable* lockable) : m_lockable(lockable) {
-    if (lockable == nullptr)
-        g_qelCoNullCheckFailed("QelMtLocker", "QelMtLocker", nullptr);
+    if (lockable == nullptr) g_qelCoNullCheckFailed("QelMtLocker", "QelMtLocker", nullptr);
     m_lockable->lock();
 }
 

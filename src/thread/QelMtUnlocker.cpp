@@ -5,8 +5,7 @@
 namespace Velmor {
 
 QelMtUnlocker::QelMtUnlocker(QelMtLockable* lockable) : m_lockable(lockable) {
-    if (lockable == nullptr)
-        g_qelCoNullCheckFailed("QelMtUnlocker", "QelMtUnlocker", nullptr);
+    if (lockable == nullptr) g_qelCoNullCheckFailed("QelMtUnlocker", "QelMtUnlocker", nullptr);
 }
 
 QelMtUnlocker::~QelMtUnlocker() {

@@ -21,8 +21,7 @@ class Probe : public QelCoCounted {
   public:
     explicit Probe(std::atomic<int>* destroyed = nullptr) : m_destroyed(destroyed) {}
     ~Probe() override {
-        if (m_destroyed != nullptr)
-            ++*m_destroyed;
+        if (m_destroyed != nullptr) ++*m_destroyed;
     }
     int count() { return __usCount(this); }
 

@@ -21,8 +21,7 @@ class ScopedCatalogue {
     explicit ScopedCatalogue(std::string const& directory) {
         char const* old = std::getenv("NLSPATH");
         m_hadOld = old != nullptr;
-        if (m_hadOld)
-            m_old = old;
+        if (m_hadOld) m_old = old;
         std::string path = directory.empty() ? std::string("/nonexistent/%N") : directory + "/%N";
         setenv("NLSPATH", path.c_str(), 1);
     }
@@ -39,17 +38,13 @@ class ScopedCatalogue {
     std::string m_old;
 };
 
-inline std::string builtCatalogueDir() {
-    return VELMOR_TEST_CATALOG_DIR;
-}
-inline std::string alternativeCatalogueDir() {
-    return VELMOR_TEST_ALT_CATALOG_DIR;
-}
+inline std::string builtCatalogueDir() { return VELMOR_TEST_CATALOG_DIR; }
+inline std::string alternativeCatalogueDir() { return VELMOR_TEST_ALT_CATALOG_DIR; }
 
 // Switches LC_ALL to `name`, a locale compiled into the build tree, for the life of the
 // object; ok() tells whether the locale could be set.
 class ScopedLocale {
-public:
+  public:
     explicit ScopedLocale(char const* name) : m_old(std::setlocale(LC_ALL, nullptr)) {
         setenv("LOCPATH", VELMOR_TEST_LOCALE_DIR, 1);
         m_ok = std::setlocale(LC_ALL, name) != nullptr;
@@ -60,7 +55,7 @@ public:
     }
     bool ok() const { return m_ok; }
 
-private:
+  private:
     std::string m_old;
     bool m_ok;
 };
@@ -94,8 +89,7 @@ class InjectedFault {
 
   private:
     static int hook(char const* callName) {
-        if (t_callName == nullptr || std::strcmp(callName, t_callName) != 0)
-            return 0;
+        if (t_callName == nullptr || std::strcmp(callName, t_callName) != 0) return 0;
         t_callName = nullptr;
         return t_error;
     }

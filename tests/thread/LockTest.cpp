@@ -20,8 +20,7 @@ bool fs_freeForOtherThreads(QelMtLockable& lock) {
     bool taken = false;
     std::thread other([&] {
         taken = lock.tryLock();
-        if (taken)
-            lock.unlock();
+        if (taken) lock.unlock();
     });
     other.join();
     return taken;

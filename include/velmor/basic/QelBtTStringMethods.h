@@ -8,12 +8,14 @@ namespace Velmor {
 
 template <class T>
 class QelBtTStringMethods {
-public:
+  public:
     static void copy(T* dst, T const* src, unsigned int n) {
-        for (unsigned int i = 0; i < n; ++i) dst[i] = src[i];
+        for (unsigned int i = 0; i < n; ++i)
+            dst[i] = src[i];
     }
     static void move(T* dst, T const* src, unsigned int n) {
-        for (unsigned int i = n; i > 0; --i) dst[i - 1] = src[i - 1];
+        for (unsigned int i = n; i > 0; --i)
+            dst[i - 1] = src[i - 1];
     }
 };
 

@@ -111,8 +111,6 @@ VELMOR_API std::ostream& operator<<(std::ostream& stream, QelCoException const& 
             return nullptr;                              \
         }                                                \
     }                                                    \
-    void Class::raise() const {                          \
-        throw *this;                                     \
-    }
+    void Class::raise() const { throw *this; }
 
 #endif

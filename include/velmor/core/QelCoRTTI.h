@@ -51,16 +51,11 @@ class VELMOR_API QelCoRTTI {
     static ::Velmor::QelCoRTTI const* const fs_##Class##_rtti_array[] = {&Parent::cs_rtti, \
                                                                          nullptr};         \
     ::Velmor::QelCoRTTI Class::cs_rtti(#Class, fs_##Class##_rtti_array);                   \
-    ::Velmor::QelCoRTTI const& Class::getRTTI() const {                                    \
-        return cs_rtti;                                                                    \
-    }                                                                                      \
+    ::Velmor::QelCoRTTI const& Class::getRTTI() const { return cs_rtti; }                  \
     void* Class::narrowTo(::Velmor::QelCoRTTI const& target) {                             \
-        if (&target == &cs_rtti)                                                           \
-            return static_cast<Class*>(this);                                              \
+        if (&target == &cs_rtti) return static_cast<Class*>(this);                         \
         return Parent::narrowTo(target);                                                   \
     }                                                                                      \
-    char const* Class::getClassName() const {                                              \
-        return cs_rtti.name;                                                               \
-    }
+    char const* Class::getClassName() const { return cs_rtti.name; }
 
 #endif

@@ -35,8 +35,7 @@ struct QelCoTSharedTCounting {
     static int up(T const* object) { return const_cast<T*>(object)->QelCoCounted::__refUp(); }
     static int down(T const* object) { return const_cast<T*>(object)->QelCoCounted::__refDown(); }
     static void release(T const* object) {
-        if (down(object) == 0)
-            delete object;
+        if (down(object) == 0) delete object;
     }
 };
 
@@ -46,8 +45,7 @@ struct QelCoTSharedUSTCounting {
     static int up(T const* object) { return ++QelCoCounted::__usCount(const_cast<T*>(object)); }
     static int down(T const* object) {
         int count = --QelCoCounted::__usCount(const_cast<T*>(object));
-        if (count == 0)
-            delete object;
+        if (count == 0) delete object;
         return count;
     }
     static void release(T const* object) { down(object); }
@@ -59,8 +57,7 @@ class QelCoTSharedPtrBase {
     // Stores `object` and counts it, without releasing what was held before.
     void assign(E* object) {
         m_ptr = object;
-        if (m_ptr != nullptr)
-            Counting::up(m_ptr);
+        if (m_ptr != nullptr) Counting::up(m_ptr);
     }
     // Change the count of the held object (which must not be null); return the new count.
     int refUp() const { return Counting::up(m_ptr); }
@@ -80,19 +77,16 @@ class QelCoTSharedPtrBase {
 
     // Exactly one of several threads releasing the last counts sees 0 and deletes.
     void releaseHeld() {
-        if (m_ptr != nullptr)
-            Counting::release(m_ptr);
+        if (m_ptr != nullptr) Counting::release(m_ptr);
     }
     // Assignment: nothing if the same object; else release the old one, then count the new.
     void reset(E* object) {
-        if (object == m_ptr)
-            return;
+        if (object == m_ptr) return;
         releaseHeld();
         assign(object);
     }
     void newCheckAs(char const* className) const {
-        if (m_ptr == nullptr)
-            g_qelCoNewMemoryFailed(className, className);
+        if (m_ptr == nullptr) g_qelCoNewMemoryFailed(className, className);
     }
 
     E* m_ptr;

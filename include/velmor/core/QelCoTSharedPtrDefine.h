@@ -22,8 +22,7 @@ int QelCoTSharedCounting<T>::down(T const* object) {
 
 template <class T>
 void QelCoTSharedCounting<T>::release(T const* object) {
-    if (down(object) == 0)
-        delete object;
+    if (down(object) == 0) delete object;
 }
 
 template <class T>
@@ -34,8 +33,7 @@ int QelCoTSharedUSCounting<T>::up(T const* object) {
 template <class T>
 int QelCoTSharedUSCounting<T>::down(T const* object) {
     int count = --QelCoCounted::__usCount(const_cast<T*>(object));
-    if (count == 0)
-        delete object;
+    if (count == 0) delete object;
     return count;
 }
 

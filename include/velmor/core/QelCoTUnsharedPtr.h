@@ -22,8 +22,7 @@ class QelCoTUnsharedPtr {
     // Deletes the held object. The pointer keeps its (now dangling) value: only the
     // destructor and operator= call this.
     void release() {
-        if (m_ptr != nullptr)
-            delete m_ptr;
+        if (m_ptr != nullptr) delete m_ptr;
     }
 
     operator T*() const { return m_ptr; }

@@ -105,32 +105,26 @@ class VELMOR_API QelCoTrace {
     // Sends `exit` if `enter` was sent, or always while cs_enableOutCallStack is in force.
     // A frame that owes no `exit` closes without a call.
     ~QelCoTrace() {
-        if (m_data.entered != 0)
-            do_destruct();
+        if (m_data.entered != 0) do_destruct();
     }
 
     // Event wrappers: each sends its event if the frame's threshold is at most `level`.
     void arg(char const* name, long value, int level = cs_defaultLevel) {
-        if (m_data.threshold <= level)
-            do_arg(name, value, level);
+        if (m_data.threshold <= level) do_arg(name, value, level);
     }
     void arg(char const* name, int value, int level = cs_defaultLevel) {
-        if (m_data.threshold <= level)
-            do_arg(name, static_cast<long>(value), level);
+        if (m_data.threshold <= level) do_arg(name, static_cast<long>(value), level);
     }
     void arg(char const* name, std::string const& value, int level = cs_defaultLevel) {
-        if (m_data.threshold <= level)
-            do_arg(name, value, level);
+        if (m_data.threshold <= level) do_arg(name, value, level);
     }
     // A null `value` is sent as an empty text.
     void arg(char const* name, char const* value, int level = cs_defaultLevel) {
-        if (m_data.threshold <= level)
-            do_arg(name, value, level);
+        if (m_data.threshold <= level) do_arg(name, value, level);
     }
     void argBytes(char const* name, void const* bytes, unsigned int length,
                   int level = cs_defaultLevel) {
-        if (m_data.threshold <= level)
-            do_argByteArray(name, bytes, length, level);
+        if (m_data.threshold <= level) do_argByteArray(name, bytes, length, level);
     }
     // Records a call (always, so that returned() can name it) and sends it at `level`.
     void call(QelCoObject const* object, char const* methodName, int level = cs_defaultLevel) {
@@ -142,34 +136,27 @@ class VELMOR_API QelCoTrace {
     void call(char const* methodName, int level = cs_defaultLevel) { do_call(methodName, level); }
     // The last call has returned; sent at the level of that call.
     void returned() {
-        if (m_data.threshold <= m_data.callLevel)
-            do_return();
+        if (m_data.threshold <= m_data.callLevel) do_return();
     }
     void mark(char const* text, int level = cs_defaultLevel) {
-        if (m_data.threshold <= level)
-            do_mark(text, level);
+        if (m_data.threshold <= level) do_mark(text, level);
     }
     void time(char const* text, int level = cs_defaultLevel) {
-        if (m_data.threshold <= level)
-            do_time(text, level);
+        if (m_data.threshold <= level) do_time(text, level);
     }
     void error(char const* text, int level = cs_defaultLevel) {
-        if (m_data.threshold <= level)
-            do_error(text, level);
+        if (m_data.threshold <= level) do_error(text, level);
     }
     void warn(char const* text, int level = cs_defaultLevel) {
-        if (m_data.threshold <= level)
-            do_warn(text, level);
+        if (m_data.threshold <= level) do_warn(text, level);
     }
     // A caught exception, between the marks "Exception Begin" and "Exception End"; a library
     // exception adds its own fields as events of level 0.
     void caught(QelCoException const& exception, int level = cs_defaultLevel) {
-        if (m_data.threshold <= level)
-            do_caught(exception, level);
+        if (m_data.threshold <= level) do_caught(exception, level);
     }
     void caught(std::exception const& exception, int level = cs_defaultLevel) {
-        if (m_data.threshold <= level)
-            do_caught(exception, level);
+        if (m_data.threshold <= level) do_caught(exception, level);
     }
     void flush() { do_flush(); }
 

@@ -12,13 +12,13 @@ using namespace Velmor;
 class Document : public QelCoCounted {
     QEL_CO_DECLARE_RTTI()
 
-  public:
+public:
     explicit Document(char const* title) : m_title(title) {
         std::cout << "  made document \"" << m_title << "\"\n";
     }
     ~Document() override { std::cout << "  deleted document \"" << m_title << "\"\n"; }
 
-  private:
+private:
     char const* m_title;
 };
 QEL_CO_DEFINE_RTTI(Document, QelCoCounted)

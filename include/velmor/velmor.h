@@ -63,6 +63,7 @@
 #include <velmor/platform/QelCnfVersionInfoData.h>
 #include <velmor/platform/QelOsUnix.h>
 #include <velmor/platform/QelSysOs.h>
+#include <velmor/text/QelUtBtStr.h>
 #include <velmor/text/QelUtNumberFormatException.h>
 #include <velmor/text/QelUtStr.h>
 #include <velmor/thread/QelComtLockable.h>

@@ -6,6 +6,7 @@
 #include <cwchar>
 #include <new>
 
+#include <velmor/basic/QelBtTString.h>
 #include <velmor/core/QelCoMsgFormatter.h>
 #include <velmor/core/QelCoStderrMsgFormatter.h>
 #include <velmor/thread/QelComtLocker.h>
@@ -16,7 +17,7 @@ static char const* const fs_nullArgument = "(null)";
 
 // The argument store of a message: up to nine texts made with array new.
 class QelCoMsgData {
-  public:
+public:
     static constexpr unsigned int cs_maxArgs = 9;
 
     QelCoMsgData() : count(0), args() {}
@@ -173,6 +174,30 @@ std::wstring QelCoMsg::wformatDefaultMsg() const {
     QelCoTSharedPtr<QelCoMsgFormatter> formatter = fs_formatterFor(m_formatter);
     return formatter.isNull() ? std::wstring() : formatter->wformatDefaultMsg(*this);
 }
+
+QelBtTString<char> QelCoMsg::qes_format() const {
+    QelCoTSharedPtr<QelCoMsgFormatter> formatter = fs_formatterFor(m_formatter);
+    return formatter.isNull() ? QelBtTString<char>() : formatter->qes_format(*this);
+}
+
+QelBtTString<char> QelCoMsg::qes_formatDefaultMsg() const {
+    QelCoTSharedPtr<QelCoMsgFormatter> formatter = fs_formatterFor(m_formatter);
+    return formatter.isNull() ? QelBtTString<char>() : formatter->qes_formatDefaultMsg(*this);
+}
+
+QelBtTString<wchar_t> QelCoMsg::qes_wformat() const {
+    QelCoTSharedPtr<QelCoMsgFormatter> formatter = fs_formatterFor(m_formatter);
+    return formatter.isNull() ? QelBtTString<wchar_t>() : formatter->qes_wformat(*this);
+}
+
+QelBtTString<wchar_t> QelCoMsg::qes_wformatDefaultMsg() const {
+    QelCoTSharedPtr<QelCoMsgFormatter> formatter = fs_formatterFor(m_formatter);
+    return formatter.isNull() ? QelBtTString<wchar_t>() : formatter->qes_wformatDefaultMsg(*this);
+}
+
+QelCoMsg& QelCoMsg::operator<<(QelBtTString<char> const& text) { return *this << text.c_str(); }
+
+QelCoMsg& QelCoMsg::operator<<(QelBtTString<wchar_t> const& text) { return *this << text.c_str(); }
 
 void QelCoMsg::append(char const* text) {
     if (m_data.isNull() || m_data->count >= QelCoMsgData::cs_maxArgs) return;

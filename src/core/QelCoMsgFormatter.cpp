@@ -189,6 +189,38 @@ std::wstring QelCoMsgFormatter::wformatDefaultMsg(QelCoMsg const& msg) {
     }
 }
 
+QelBtTString<wchar_t> QelCoMsgFormatter::qes_wformat(QelCoMsg const& msg) {
+    QelBtTString<wchar_t> result;
+    if (!msg.hasArgStore()) return result;
+    internalBtWStr sink(&result);
+    fs_formatMessage(msg, sink);
+    return result;
+}
+
+QelBtTString<char> QelCoMsgFormatter::qes_format(QelCoMsg const& msg) {
+    try {
+        return QelCoConverters::qes_wctomb(qes_wformat(msg));
+    } catch (...) {
+        return QelBtTString<char>();
+    }
+}
+
+QelBtTString<char> QelCoMsgFormatter::qes_formatDefaultMsg(QelCoMsg const& msg) {
+    QelBtTString<char> result;
+    if (!msg.hasArgStore()) return result;
+    internalBtStr sink(&result);
+    fs_formatDefaultMessage(msg, sink);
+    return result;
+}
+
+QelBtTString<wchar_t> QelCoMsgFormatter::qes_wformatDefaultMsg(QelCoMsg const& msg) {
+    try {
+        return QelCoConverters::qes_mbtowc(qes_formatDefaultMsg(msg));
+    } catch (...) {
+        return QelBtTString<wchar_t>();
+    }
+}
+
 char const* QelCoMsgFormatter::fallbackMsg(QelCoMsg const& msg) const {
     return msg.getDefaultMessage();
 }

@@ -7,40 +7,60 @@
 
 #include <string>
 
+#include <velmor/basic/QelBtTString.h>
+
 namespace Velmor {
 
 class internalStrBase {
-  public:
+public:
     virtual void assign(const char* text) = 0;
 
-  protected:
+protected:
     ~internalStrBase() = default;
 };
 
 class internalStr : public internalStrBase {
-  public:
+public:
     explicit internalStr(std::string* target) : m_target(target) {}
     void assign(const char* text) override { *m_target = text; }
 
-  private:
+private:
     std::string* m_target;
 };
 
 class internalWStrBase {
-  public:
+public:
     virtual void assign(const wchar_t* text) = 0;
 
-  protected:
+protected:
     ~internalWStrBase() = default;
 };
 
 class internalWStr : public internalWStrBase {
-  public:
+public:
     explicit internalWStr(std::wstring* target) : m_target(target) {}
     void assign(const wchar_t* text) override { *m_target = text; }
 
-  private:
+private:
     std::wstring* m_target;
+};
+
+class internalBtStr : public internalStrBase {
+public:
+    explicit internalBtStr(QelBtTString<char>* target) : m_target(target) {}
+    void assign(const char* text) override { *m_target = text; }
+
+private:
+    QelBtTString<char>* m_target;
+};
+
+class internalBtWStr : public internalWStrBase {
+public:
+    explicit internalBtWStr(QelBtTString<wchar_t>* target) : m_target(target) {}
+    void assign(const wchar_t* text) override { *m_target = text; }
+
+private:
+    QelBtTString<wchar_t>* m_target;
 };
 
 }  // namespace Velmor

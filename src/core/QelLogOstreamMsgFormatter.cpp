@@ -11,7 +11,7 @@ namespace Velmor {
 
 // The stream of a QelLogOstreamMsgFormatter and how to write to it.
 class QelLogOstreamMsgFormatterData {
-  public:
+public:
     QelLogOstreamMsgFormatterData(std::ostream* target, int owns, int withoutPrefix)
         : stream(target), ownsStream(owns), noPrefix(withoutPrefix) {}
     ~QelLogOstreamMsgFormatterData() {

@@ -13,15 +13,15 @@ namespace Velmor {
 
 // Receives a finished text of `length` characters (not necessarily terminated).
 class QelUtTextSink {
-  public:
+public:
     virtual void assign(char const* text, std::size_t length) = 0;
 
-  protected:
+protected:
     ~QelUtTextSink() = default;
 };
 
 class QelUtNumberText {
-  public:
+public:
     static constexpr unsigned int cs_npos = 0xffffffffu;
 
     // The parsers read `text` of `length` characters, limited to `n` unless n is cs_npos.

@@ -11,7 +11,7 @@ static char const* const fs_className = "QelUtStr";
 
 // Hands a finished text to a std::string.
 class fs_StdStringSink : public QelUtTextSink {
-  public:
+public:
     void assign(char const* text, std::size_t length) override { result.assign(text, length); }
     std::string result;
 };

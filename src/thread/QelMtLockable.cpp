@@ -15,7 +15,7 @@ namespace Velmor {
 
 // The mutex and the attributes it was made with, alive as long as the mutex.
 class QelMtLockableData {
-  public:
+public:
     pthread_mutex_t mutex;
     pthread_mutexattr_t attributes;
 };

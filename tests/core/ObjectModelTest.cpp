@@ -18,14 +18,14 @@ namespace VelmorTest {
 class Probe : public QelCoCounted {
     QEL_CO_DECLARE_RTTI()
 
-  public:
+public:
     explicit Probe(std::atomic<int>* destroyed = nullptr) : m_destroyed(destroyed) {}
     ~Probe() override {
         if (m_destroyed != nullptr) ++*m_destroyed;
     }
     int count() { return __usCount(this); }
 
-  private:
+private:
     std::atomic<int>* m_destroyed;
 };
 QEL_CO_DEFINE_RTTI(Probe, QelCoCounted)
@@ -33,7 +33,7 @@ QEL_CO_DEFINE_RTTI(Probe, QelCoCounted)
 class DerivedProbe : public Probe {
     QEL_CO_DECLARE_RTTI()
 
-  public:
+public:
     using Probe::Probe;
 };
 QEL_CO_DEFINE_RTTI(DerivedProbe, Probe)

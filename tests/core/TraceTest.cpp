@@ -19,7 +19,7 @@ namespace {
 
 // Stores each event as one short text, "<null>" standing for a null pointer.
 class RecordingFormatter : public QelCoTraceFormatter {
-  public:
+public:
     std::vector<std::string> events;
 
     void enter(char const* c, char const* m) override { frame("enter", c, m); }
@@ -44,7 +44,7 @@ class RecordingFormatter : public QelCoTraceFormatter {
     }
     void flush() override { add("flush"); }
 
-  private:
+private:
     static std::string s(char const* text) { return text ? text : "<null>"; }
     void add(std::string const& event) { events.push_back(event); }
     // The class is left out when the event has none.
@@ -62,7 +62,7 @@ RecordingFormatter& recorder() {
 }
 
 class TraceTest : public ::testing::Test {
-  protected:
+protected:
     void SetUp() override { recorder().events.clear(); }
     void TearDown() override {
         QelCoTrace::cs_disableTrace();

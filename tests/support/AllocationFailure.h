@@ -15,7 +15,7 @@ extern thread_local long t_mallocsBeforeFailure;
 extern thread_local bool t_mallocFailsOnce;
 
 class ScopedAllocationFailure {
-  public:
+public:
     // Lets `allowed` more operator new calls succeed, then fails every one until destruction
     // (or only the next one, with `once`).
     explicit ScopedAllocationFailure(long allowed = 0, bool once = false) {
@@ -28,7 +28,7 @@ class ScopedAllocationFailure {
 };
 
 class ScopedMallocFailure {
-  public:
+public:
     // The same for malloc, which then returns null.
     explicit ScopedMallocFailure(long allowed = 0, bool once = false) {
         t_mallocsBeforeFailure = allowed;

@@ -17,7 +17,7 @@ namespace VelmorTest {
 // Points the catalogue search (NLSPATH) at `directory` for the life of the object; an empty
 // directory name means "no catalogue anywhere".
 class ScopedCatalogue {
-  public:
+public:
     explicit ScopedCatalogue(std::string const& directory) {
         char const* old = std::getenv("NLSPATH");
         m_hadOld = old != nullptr;
@@ -33,7 +33,7 @@ class ScopedCatalogue {
         }
     }
 
-  private:
+private:
     bool m_hadOld;
     std::string m_old;
 };
@@ -44,7 +44,7 @@ inline std::string alternativeCatalogueDir() { return VELMOR_TEST_ALT_CATALOG_DI
 // Switches LC_ALL to `name`, a locale compiled into the build tree, for the life of the
 // object; ok() tells whether the locale could be set.
 class ScopedLocale {
-  public:
+public:
     explicit ScopedLocale(char const* name) : m_old(std::setlocale(LC_ALL, nullptr)) {
         setenv("LOCPATH", VELMOR_TEST_LOCALE_DIR, 1);
         m_ok = std::setlocale(LC_ALL, name) != nullptr;
@@ -55,26 +55,26 @@ class ScopedLocale {
     }
     bool ok() const { return m_ok; }
 
-  private:
+private:
     std::string m_old;
     bool m_ok;
 };
 
 // Collects what is written to std::cerr while it lives.
 class CerrCapture {
-  public:
+public:
     CerrCapture() : m_old(std::cerr.rdbuf(m_buffer.rdbuf())) {}
     ~CerrCapture() { std::cerr.rdbuf(m_old); }
     std::string text() const { return m_buffer.str(); }
 
-  private:
+private:
     std::ostringstream m_buffer;
     std::streambuf* m_old;
 };
 
 // Makes the next wrapped system call named `callName` on this thread fail with `error`.
 class InjectedFault {
-  public:
+public:
     InjectedFault(char const* callName, int error) {
         t_callName = callName;
         t_error = error;
@@ -87,7 +87,7 @@ class InjectedFault {
     // Whether the fault has been delivered.
     bool fired() const { return t_callName == nullptr; }
 
-  private:
+private:
     static int hook(char const* callName) {
         if (t_callName == nullptr || std::strcmp(callName, t_callName) != 0) return 0;
         t_callName = nullptr;

@@ -212,6 +212,53 @@ TEST(NumberText, IntegersReadBackToThemselves) {
     }
 }
 
+TEST(NumberText, TheTwinOnTheLibrarysStringAgrees) {
+    VelmorTest::ScopedLocale english("en_US.UTF-8");
+    ASSERT_TRUE(english.ok());
+    VelmorTest::ScopedCatalogue noCatalogue("");
+    char const* const texts[] = {"  42abc", "-1,234,567.5", "fF", "+", "", "1,2,3x", "9e99"};
+    for (char const* text : texts) {
+        std::string s(text);
+        QelBtTString<char> b(text);
+        auto same = [&](std::function<std::string()> standard, std::function<std::string()> twin) {
+            std::string a = standard();
+            std::string c = twin();
+            EXPECT_EQ(a, c) << text;
+        };
+        auto result = [](auto parse) {
+            return [parse]() -> std::string {
+                try {
+                    return std::to_string(parse());
+                } catch (QelUtNumberFormatException const& e) {
+                    return std::string(e.getIllegalString()) + " refused";
+                }
+            };
+        };
+        same(result([&] { return QelUtStr::strToInt(s, 4); }),
+             result([&] { return QelUtBtStr::strToInt(b, 4); }));
+        same(result([&] { return QelUtStr::hexStrToInt(s); }),
+             result([&] { return QelUtBtStr::hexStrToInt(b); }));
+        same(result([&] { return QelUtStr::strToDouble(s); }),
+             result([&] { return QelUtBtStr::strToDouble(b); }));
+        same(result([&] { return QelUtStr::thousandsSepToInt(s); }),
+             result([&] { return QelUtBtStr::thousandsSepToInt(b); }));
+        same(result([&] { return QelUtStr::thousandsSepToDouble(s); }),
+             result([&] { return QelUtBtStr::thousandsSepToDouble(b); }));
+    }
+    try {
+        QelUtBtStr::strToInt(QelBtTString<char>("x"));
+        FAIL();
+    } catch (QelUtNumberFormatException const& e) {
+        EXPECT_STREQ("QelUtBtStr::strToInt()", e.where());
+    }
+    EXPECT_STREQ("-1,234", QelUtBtStr::intToThousandsSep(-1234).c_str());
+    EXPECT_STREQ("1,234.50", QelUtBtStr::doubleToThousandsSep(1234.5, 2).c_str());
+    EXPECT_STREQ("ff", QelUtBtStr::intToHexStr(255).c_str());
+    EXPECT_STREQ("-7", QelUtBtStr::intToStr(-7).c_str());
+    EXPECT_STREQ("0.5", QelUtBtStr::doubleToStr(0.5).c_str());
+    EXPECT_STREQ("a-7b", QelUtBtStr::strprintf("a%db", -7).c_str());
+}
+
 #if defined(__i386__)
 TEST(NumberText32, DecimalOverflowSaturatesAtTheLimitsOfLong) {
     // With a 32-bit long, strtol's saturation is the limit of int as well.

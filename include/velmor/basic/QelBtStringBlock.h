@@ -12,7 +12,7 @@
 namespace Velmor {
 
 class VELMOR_API QelBtStringBlock {
-  public:
+public:
     // The elements start this many bytes into the block, aligned for every element type.
     static constexpr unsigned int cs_elementsOffset = 16;
 

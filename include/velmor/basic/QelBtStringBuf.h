@@ -16,7 +16,7 @@ namespace Velmor {
 // The bytes of a QelBtStringBuf and the work on them. Counts of npos mean "up to the
 // terminator".
 class VELMOR_API QelBtStringBufData {
-  public:
+public:
     QelBtStringBufData();
     QelBtStringBufData(QelBtStringBufData const& other);
     QelBtStringBufData& operator=(QelBtStringBufData const& other);
@@ -40,7 +40,7 @@ class VELMOR_API QelBtStringBufData {
 };
 
 class VELMOR_API QelBtStringBuf {
-  public:
+public:
     typedef QelBtStringBuf B;
     static constexpr unsigned int npos = QelBtStringConsts::npos;
 
@@ -104,7 +104,7 @@ class VELMOR_API QelBtStringBuf {
     std::string toString() const;
     QelBtTString<char> toQelBtString() const;
 
-  private:
+private:
     QelBtStringBufData m_data;
 };
 

@@ -9,7 +9,7 @@
 namespace Velmor {
 
 class VELMOR_API QelBtStringConsts {
-  public:
+public:
     // All bits set: "up to the terminator", "the rest", "the last element" or "not found".
     static constexpr unsigned int npos = 0xffffffffu;
 

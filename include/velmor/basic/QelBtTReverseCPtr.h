@@ -7,7 +7,7 @@ namespace Velmor {
 
 template <class T>
 class QelBtTReverseCPtr {
-  public:
+public:
     explicit QelBtTReverseCPtr(T const* element) : m_element(element) {}
     ~QelBtTReverseCPtr() {}
 
@@ -23,7 +23,7 @@ class QelBtTReverseCPtr {
     bool operator==(QelBtTReverseCPtr const& other) const { return m_element == other.m_element; }
     bool operator!=(QelBtTReverseCPtr const& other) const { return m_element != other.m_element; }
 
-  private:
+private:
     T const* m_element;
 };
 

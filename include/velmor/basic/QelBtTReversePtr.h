@@ -9,7 +9,7 @@ namespace Velmor {
 
 template <class T>
 class QelBtTReversePtr {
-  public:
+public:
     explicit QelBtTReversePtr(T* element) : m_element(element) {}
 
     T& operator*() const { return *m_element; }
@@ -25,7 +25,7 @@ class QelBtTReversePtr {
     bool operator==(QelBtTReversePtr const& other) const { return m_element == other.m_element; }
     bool operator!=(QelBtTReversePtr const& other) const { return m_element != other.m_element; }
 
-  private:
+private:
     T* m_element;
 };
 

@@ -23,7 +23,7 @@ namespace Velmor {
 
 template <class T>
 class VELMOR_API QelBtTString {
-  public:
+public:
     using S = QelBtTString<T>;
     static constexpr unsigned int npos = QelBtStringConsts::npos;
 
@@ -175,7 +175,7 @@ class VELMOR_API QelBtTString {
     void dbg_disableFail() const {}
     bool dbg_shouldFail(char const*, char const*) const { return false; }
 
-  private:
+private:
     T* elements() { return static_cast<T*>(m_block->elements()); }
     void setLength(unsigned int length) {
         m_block->length = length;

@@ -8,7 +8,7 @@ namespace Velmor {
 
 template <class T>
 class QelBtTStringMethods {
-  public:
+public:
     static void copy(T* dst, T const* src, unsigned int n) {
         for (unsigned int i = 0; i < n; ++i)
             dst[i] = src[i];

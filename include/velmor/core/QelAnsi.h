@@ -10,7 +10,7 @@
 namespace Velmor {
 
 class VELMOR_API QelAnsi {
-  public:
+public:
     static std::istream& cin;
     static std::ostream& cout;
     static std::ostream& cerr;

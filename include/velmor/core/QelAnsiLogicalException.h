@@ -13,7 +13,7 @@ namespace Velmor {
 
 // The extra state of QelAnsiLogicalException.
 class VELMOR_API QelAnsiLogicalExceptionData {
-  public:
+public:
     explicit QelAnsiLogicalExceptionData(char const* what) : text(what) {}
     QelCoExceptionString text;
 };
@@ -21,7 +21,7 @@ class VELMOR_API QelAnsiLogicalExceptionData {
 class VELMOR_API QelAnsiLogicalException : public QelCoLogicalException {
     QEL_CO_DECLARE_EXCEPTION()
 
-  public:
+public:
     QelAnsiLogicalException(char const* fileName, int line, std::exception const& exception);
     QelAnsiLogicalException(char const* className, char const* methodName,
                             std::exception const& exception);
@@ -43,7 +43,7 @@ class VELMOR_API QelAnsiLogicalException : public QelCoLogicalException {
     // The standard exception's what(), or null if it could not be copied.
     char const* getText() const;
 
-  private:
+private:
     QelAnsiLogicalExceptionData m_qelAnsiLogicalExceptionData;
 };
 

@@ -13,7 +13,7 @@ namespace Velmor {
 
 // The extra state of QelAnsiRuntimeException.
 class VELMOR_API QelAnsiRuntimeExceptionData {
-  public:
+public:
     explicit QelAnsiRuntimeExceptionData(char const* what) : text(what) {}
     QelCoExceptionString text;
 };
@@ -21,7 +21,7 @@ class VELMOR_API QelAnsiRuntimeExceptionData {
 class VELMOR_API QelAnsiRuntimeException : public QelCoRuntimeException {
     QEL_CO_DECLARE_EXCEPTION()
 
-  public:
+public:
     QelAnsiRuntimeException(char const* fileName, int line, std::exception const& exception);
     QelAnsiRuntimeException(char const* className, char const* methodName,
                             std::exception const& exception);
@@ -43,7 +43,7 @@ class VELMOR_API QelAnsiRuntimeException : public QelCoRuntimeException {
     // The standard exception's what(), or null if it could not be copied.
     char const* getText() const;
 
-  private:
+private:
     QelAnsiRuntimeExceptionData m_qelAnsiRuntimeExceptionData;
 };
 

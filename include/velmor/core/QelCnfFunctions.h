@@ -10,7 +10,7 @@
 namespace Velmor {
 
 class VELMOR_API QelCnfFunctions {
-  public:
+public:
     // Add or subtract 1 at *p under the stripe lock of p; return the value after the change.
     // Throw as QelMtLockable::lock does if the stripe cannot be taken.
     static int cs_InterlockedIncrement(int* p);

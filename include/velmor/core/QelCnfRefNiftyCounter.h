@@ -18,7 +18,7 @@ class QelMtLockable;
 extern VELMOR_API QelMtLockable* g_pqelLocks;
 
 class VELMOR_API QelCnfRefNiftyCounter {
-  public:
+public:
     // The number of stripes: a prime, so that aligned addresses spread over all of them.
     static constexpr unsigned int cs_lockCount = 17;
 

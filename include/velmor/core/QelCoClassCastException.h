@@ -12,7 +12,7 @@ namespace Velmor {
 
 // The extra state of QelCoClassCastException.
 class VELMOR_API QelCoClassCastExceptionData {
-  public:
+public:
     QelCoClassCastExceptionData(QelCoRTTI const* fromRecord, QelCoRTTI const* toRecord,
                                 void const* objectAddress)
         : from(fromRecord), to(toRecord), address(objectAddress) {}
@@ -24,7 +24,7 @@ class VELMOR_API QelCoClassCastExceptionData {
 class VELMOR_API QelCoClassCastException : public QelCoLogicalException {
     QEL_CO_DECLARE_EXCEPTION()
 
-  public:
+public:
     QelCoClassCastException(char const* fileName, int line, QelCoRTTI const& from,
                             QelCoRTTI const& to, void const* address);
     // Placed at the class and method of a traced frame.
@@ -46,7 +46,7 @@ class VELMOR_API QelCoClassCastException : public QelCoLogicalException {
     // The address as the message shows it: "0x" and at least eight hex digits.
     void formatAddress(char* buffer, unsigned int size) const;
 
-  private:
+private:
     QelCoClassCastExceptionData m_qelCoClassCastExceptionData;
 };
 

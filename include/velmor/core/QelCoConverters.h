@@ -10,12 +10,18 @@
 
 namespace Velmor {
 
+template <class T>
+class QelBtTString;
+
 class VELMOR_API QelCoConverters {
-  public:
+public:
     // Empty for empty input and for text the locale cannot convert. Throws
     // QelCoOutOfMemoryException when the buffer cannot be allocated.
     static std::wstring mbtowc(std::string const& text);
     static std::string wctomb(std::wstring const& text);
+    // The same on the library's strings.
+    static QelBtTString<wchar_t> qes_mbtowc(QelBtTString<char> const& text);
+    static QelBtTString<char> qes_wctomb(QelBtTString<wchar_t> const& text);
 };
 
 }  // namespace Velmor

@@ -13,7 +13,7 @@ namespace Velmor {
 class VELMOR_API QelCoCounted : public QelCoObject {
     QEL_CO_DECLARE_RTTI()
 
-  public:
+public:
     // Every constructor, the copy constructor included, starts the count at 0.
     QelCoCounted();
     QelCoCounted(QelCoCounted const& other);
@@ -38,7 +38,7 @@ class VELMOR_API QelCoCounted : public QelCoObject {
     static void cs_enableCopy();
     static void cs_disableCopy();
 
-  private:
+private:
     int m_count;
 };
 

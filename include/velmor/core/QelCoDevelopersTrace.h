@@ -13,7 +13,7 @@
 namespace Velmor {
 
 class VELMOR_API QelCoDevelopersTrace : public QelCoTrace {
-  public:
+public:
     // Opens the frame; `level` is the level of `enter` and `exit`. A null `object` throws
     // QelCoNullPointerException.
     QelCoDevelopersTrace(QelCoObject const* object, char const* methodName, int level);

@@ -24,7 +24,7 @@ struct QelCoMsgId;
 
 // The place and the text caches of an exception.
 class VELMOR_API QelCoExceptionData {
-  public:
+public:
     // Copies the names (a failed copy is left null) and makes sure the default message
     // formatter of the exceptions exists. Never throws.
     QelCoExceptionData(char const* fileName, int line, char const* className,
@@ -51,7 +51,7 @@ class VELMOR_API QelCoExceptionData {
 class VELMOR_API QelCoException : public virtual QelCoObject {
     QEL_CO_DECLARE_RTTI()
 
-  public:
+public:
     // The place of the raise: a source file and line; a class and method (either may be
     // null); or an object, whose dynamic class is named, and a method.
     QelCoException(char const* fileName, int line);
@@ -86,13 +86,13 @@ class VELMOR_API QelCoException : public virtual QelCoObject {
     static void cs_setMsgFormatter(QelCoTSharedPtr<QelCoMsgFormatter> const& formatter);
     static QelCoTSharedPtr<QelCoMsgFormatter> cs_getMsgFormatter();
 
-  protected:
+protected:
     // Steps common to every setMsg: the formatter if the message has none, the id, %1, %2.
     void setMsgHead(QelCoMsg* msg, QelCoMsgId const& id) const;
     // The trace that putTraceOn writes on; throws QelCoNullPointerException if it is null.
     QelCoTrace& traceToPutOn(QelCoTrace* trace) const;
 
-  private:
+private:
     mutable QelCoExceptionData m_data;
 };
 

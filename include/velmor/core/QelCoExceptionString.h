@@ -10,7 +10,7 @@
 namespace Velmor {
 
 class VELMOR_API QelCoExceptionString {
-  public:
+public:
     // A copy of `text`, or null for a null `text` or when memory is short.
     explicit QelCoExceptionString(char const* text = nullptr);
     QelCoExceptionString(QelCoExceptionString const& other);
@@ -25,7 +25,7 @@ class VELMOR_API QelCoExceptionString {
     char const* get() const { return m_text; }
     bool isNull() const { return m_text == nullptr; }
 
-  private:
+private:
     char* m_text;
 };
 

@@ -12,7 +12,7 @@ namespace Velmor {
 class VELMOR_API QelCoLogicalException : public QelCoException {
     QEL_CO_DECLARE_EXCEPTION()
 
-  public:
+public:
     QelCoLogicalException(char const* fileName, int line);
     QelCoLogicalException(char const* className, char const* methodName);
     QelCoLogicalException(QelCoObject const* object, char const* methodName);

@@ -12,7 +12,7 @@ namespace Velmor {
 
 // The extra state of QelCoMisUsageException.
 class VELMOR_API QelCoMisUsageExceptionData {
-  public:
+public:
     // Formats `msg` at once: its text, else its default text, else "MessageID = <n>".
     explicit QelCoMisUsageExceptionData(QelCoMsg* msg);
     QelCoExceptionString text;
@@ -21,7 +21,7 @@ class VELMOR_API QelCoMisUsageExceptionData {
 class VELMOR_API QelCoMisUsageException : public QelCoRuntimeException {
     QEL_CO_DECLARE_EXCEPTION()
 
-  public:
+public:
     QelCoMisUsageException(char const* fileName, int line, QelCoMsg* msg);
     QelCoMisUsageException(char const* className, char const* methodName, QelCoMsg* msg);
     QelCoMisUsageException(QelCoObject const* object, char const* methodName, QelCoMsg* msg);
@@ -39,7 +39,7 @@ class VELMOR_API QelCoMisUsageException : public QelCoRuntimeException {
     // The misuse text, or "do not know what happend" if it was lost.
     char const* getText() const;
 
-  private:
+private:
     QelCoMisUsageExceptionData m_qelCoMisUsageExceptionData;
 };
 

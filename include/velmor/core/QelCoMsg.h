@@ -16,9 +16,11 @@ namespace Velmor {
 
 class QelCoMsgData;
 class QelCoMsgFormatter;
+template <class T>
+class QelBtTString;
 
 class VELMOR_API QelCoMsg {
-  public:
+public:
     // The number is -1 (unset) and there is no default text until setMsgId.
     QelCoMsg();
     explicit QelCoMsg(QelCoTSharedPtr<QelCoMsgFormatter> const& formatter);
@@ -46,6 +48,11 @@ class VELMOR_API QelCoMsg {
     std::wstring wformat() const;
     std::string formatDefaultMsg() const;
     std::wstring wformatDefaultMsg() const;
+    // The same texts as the library's strings.
+    QelBtTString<char> qes_format() const;
+    QelBtTString<char> qes_formatDefaultMsg() const;
+    QelBtTString<wchar_t> qes_wformat() const;
+    QelBtTString<wchar_t> qes_wformatDefaultMsg() const;
 
     // Append the next argument (%1, %2, ...). Up to nine are kept; more are ignored. An empty
     // std::string or wide string, a null pointer, and wide text that the current locale
@@ -55,6 +62,9 @@ class VELMOR_API QelCoMsg {
     QelCoMsg& operator<<(char const* text);
     QelCoMsg& operator<<(std::wstring const& text);
     QelCoMsg& operator<<(wchar_t const* text);
+    // As the char const* and wchar_t const* forms on c_str(): an empty string stays empty.
+    QelCoMsg& operator<<(QelBtTString<char> const& text);
+    QelCoMsg& operator<<(QelBtTString<wchar_t> const& text);
 
     QelCoTSharedPtr<QelCoMsgFormatter> getMsgFormatter() const;
     int getMsgId() const;
@@ -67,7 +77,7 @@ class VELMOR_API QelCoMsg {
     // Does nothing on this platform.
     static void cs_setThreadLocaleUserLangID();
 
-  private:
+private:
     friend class QelCoMsgFormatter;
     // Whether the argument store exists; a message without one formats to empty text.
     bool hasArgStore() const { return !m_data.isNull(); }

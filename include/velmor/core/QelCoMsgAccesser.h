@@ -12,7 +12,7 @@
 namespace Velmor {
 
 class VELMOR_API QelCoMsgAccesser {
-  public:
+public:
     // Opens `catalogueName` (found by the system's catalogue search for a name without a
     // slash) and reads message `number`. A null name, a catalogue that cannot be opened or a
     // missing message leaves the text empty; none is an error.
@@ -26,7 +26,7 @@ class VELMOR_API QelCoMsgAccesser {
     // The same, converted to wide characters in the current locale; empty on any failure.
     std::wstring wgetMsg() const;
 
-  private:
+private:
     nl_catd m_catalogue;
     std::string m_text;
 };

@@ -15,11 +15,13 @@
 namespace Velmor {
 
 class QelCoMsg;
+template <class T>
+class QelBtTString;
 
 class VELMOR_API QelCoMsgFormatter : public virtual QelCoCounted {
     QEL_CO_DECLARE_RTTI()
 
-  public:
+public:
     ~QelCoMsgFormatter() override;
 
     // Deliver `msg` as an error, a warning or an information.
@@ -35,10 +37,15 @@ class VELMOR_API QelCoMsgFormatter : public virtual QelCoCounted {
     // The same from the default text alone, without the catalogue and without a lock.
     std::string formatDefaultMsg(QelCoMsg const& msg);
     std::wstring wformatDefaultMsg(QelCoMsg const& msg);
+    // The same four texts as the library's strings.
+    QelBtTString<char> qes_format(QelCoMsg const& msg);
+    QelBtTString<wchar_t> qes_wformat(QelCoMsg const& msg);
+    QelBtTString<char> qes_formatDefaultMsg(QelCoMsg const& msg);
+    QelBtTString<wchar_t> qes_wformatDefaultMsg(QelCoMsg const& msg);
     // The unfilled default text of `msg`, or null.
     char const* fallbackMsg(QelCoMsg const& msg) const;
 
-  protected:
+protected:
     QelCoMsgFormatter();
 };
 

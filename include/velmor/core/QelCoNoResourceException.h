@@ -12,7 +12,7 @@ namespace Velmor {
 class VELMOR_API QelCoNoResourceException : public QelCoOperationFailureExceptionTrue {
     QEL_CO_DECLARE_EXCEPTION()
 
-  public:
+public:
     QelCoNoResourceException(char const* fileName, int line, char const* resourceName);
     QelCoNoResourceException(char const* className, char const* methodName,
                              char const* resourceName);

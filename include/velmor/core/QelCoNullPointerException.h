@@ -11,7 +11,7 @@ namespace Velmor {
 
 // The extra state of QelCoNullPointerException.
 class VELMOR_API QelCoNullPointerExceptionData {
-  public:
+public:
     explicit QelCoNullPointerExceptionData(char const* name) : parameterName(name) {}
     QelCoExceptionString parameterName;
 };
@@ -19,7 +19,7 @@ class VELMOR_API QelCoNullPointerExceptionData {
 class VELMOR_API QelCoNullPointerException : public QelCoLogicalException {
     QEL_CO_DECLARE_EXCEPTION()
 
-  public:
+public:
     QelCoNullPointerException(char const* fileName, int line, char const* parameterName);
     QelCoNullPointerException(char const* className, char const* methodName,
                               char const* parameterName);
@@ -39,7 +39,7 @@ class VELMOR_API QelCoNullPointerException : public QelCoLogicalException {
     // The parameter's name as given, null included.
     char const* getParameterName() const;
 
-  private:
+private:
     QelCoNullPointerExceptionData m_qelCoNullPointerExceptionData;
 };
 

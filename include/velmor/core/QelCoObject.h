@@ -12,7 +12,7 @@
 namespace Velmor {
 
 class VELMOR_API QelCoObject {
-  public:
+public:
     QelCoObject() = default;
     QelCoObject(QelCoObject const&) = default;
     QelCoObject& operator=(QelCoObject const&) = default;

@@ -12,7 +12,7 @@ namespace Velmor {
 
 // The extra state of QelCoOperationFailureExceptionTrue.
 class VELMOR_API QelCoOperationFailureExceptionTrueData {
-  public:
+public:
     explicit QelCoOperationFailureExceptionTrueData(char const* name) : failedOperationName(name) {}
     QelCoExceptionString failedOperationName;
 };
@@ -20,7 +20,7 @@ class VELMOR_API QelCoOperationFailureExceptionTrueData {
 class VELMOR_API QelCoOperationFailureExceptionTrue : public QelCoRuntimeException {
     QEL_CO_DECLARE_EXCEPTION()
 
-  public:
+public:
     QelCoOperationFailureExceptionTrue(char const* fileName, int line,
                                        char const* failedOperationName);
     QelCoOperationFailureExceptionTrue(char const* className, char const* methodName,
@@ -41,7 +41,7 @@ class VELMOR_API QelCoOperationFailureExceptionTrue : public QelCoRuntimeExcepti
     // The failed operation, or "failed operation name lost due to memory shortage".
     char const* getFailedOperationName() const;
 
-  private:
+private:
     QelCoOperationFailureExceptionTrueData m_qelCoOperationFailureExceptionTrueData;
 };
 

@@ -12,7 +12,7 @@ namespace Velmor {
 class VELMOR_API QelCoOutOfMemoryException : public QelCoOperationFailureExceptionTrue {
     QEL_CO_DECLARE_EXCEPTION()
 
-  public:
+public:
     QelCoOutOfMemoryException(char const* fileName, int line);
     QelCoOutOfMemoryException(char const* className, char const* methodName);
     QelCoOutOfMemoryException(QelCoObject const* object, char const* methodName);

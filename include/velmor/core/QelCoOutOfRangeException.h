@@ -11,7 +11,7 @@ namespace Velmor {
 
 // The extra state of QelCoOutOfRangeException.
 class VELMOR_API QelCoOutOfRangeExceptionData {
-  public:
+public:
     QelCoOutOfRangeExceptionData(char const* name, long value) : argName(name), number(value) {}
     QelCoExceptionString argName;
     long number;
@@ -20,7 +20,7 @@ class VELMOR_API QelCoOutOfRangeExceptionData {
 class VELMOR_API QelCoOutOfRangeException : public QelCoRuntimeException {
     QEL_CO_DECLARE_EXCEPTION()
 
-  public:
+public:
     QelCoOutOfRangeException(char const* fileName, int line, char const* argName, long number);
     QelCoOutOfRangeException(char const* className, char const* methodName, char const* argName,
                              long number);
@@ -41,7 +41,7 @@ class VELMOR_API QelCoOutOfRangeException : public QelCoRuntimeException {
     char const* getArgName() const;
     long getIllegalNumber() const;
 
-  private:
+private:
     QelCoOutOfRangeExceptionData m_qelCoOutOfRangeExceptionData;
 };
 

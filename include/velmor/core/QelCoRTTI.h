@@ -13,7 +13,7 @@ namespace Velmor {
 class QelCoObject;
 
 class VELMOR_API QelCoRTTI {
-  public:
+public:
     // Records the class name and its null-terminated array of parent records. Neither is
     // copied: both must live as long as the process.
     QelCoRTTI(char const* name, QelCoRTTI const* const* parents);
@@ -38,7 +38,7 @@ class VELMOR_API QelCoRTTI {
 
 // Declares the type-record members of a class of the lattice. Use inside the class body.
 #define QEL_CO_DECLARE_RTTI()                                   \
-  public:                                                       \
+public:                                                         \
     static ::Velmor::QelCoRTTI cs_rtti;                         \
     ::Velmor::QelCoRTTI const& getRTTI() const override;        \
     void* narrowTo(::Velmor::QelCoRTTI const& target) override; \

@@ -13,7 +13,7 @@ namespace Velmor {
 class VELMOR_API QelCoRuntimeException : public QelCoException {
     QEL_CO_DECLARE_EXCEPTION()
 
-  public:
+public:
     QelCoRuntimeException(char const* fileName, int line);
     QelCoRuntimeException(char const* className, char const* methodName);
     QelCoRuntimeException(QelCoObject const* object, char const* methodName);

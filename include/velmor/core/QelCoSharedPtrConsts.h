@@ -8,7 +8,7 @@
 namespace Velmor {
 
 class VELMOR_API QelCoSharedPtrConsts {
-  public:
+public:
     static char const* cs_SharedPtrClassName;    // "QelCoTSharedPtr"
     static char const* cs_SharedCPtrClassName;   // "QelCoTSharedCPtr"
     static char const* cs_SharedTPtrClassName;   // "QelCoTSharedTPtr"

@@ -8,7 +8,7 @@
 namespace Velmor {
 
 class VELMOR_API QelCoSharedUSPtrConsts {
-  public:
+public:
     static char const* cs_SharedUSPtrClassName;    // "QelCoTSharedUSPtr"
     static char const* cs_SharedUSCPtrClassName;   // "QelCoTSharedUSCPtr"
     static char const* cs_SharedUSTPtrClassName;   // "QelCoTSharedUSTPtr"

@@ -11,7 +11,7 @@ namespace Velmor {
 class VELMOR_API QelCoStderrMsgFormatter : public QelCoMsgFormatter {
     QEL_CO_DECLARE_RTTI()
 
-  public:
+public:
     QelCoStderrMsgFormatter();
     ~QelCoStderrMsgFormatter() override;
 

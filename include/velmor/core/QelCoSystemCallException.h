@@ -11,7 +11,7 @@ namespace Velmor {
 
 // The extra state of QelCoSystemCallException.
 class VELMOR_API QelCoSystemCallExceptionData {
-  public:
+public:
     explicit QelCoSystemCallExceptionData(int error) : errNo(error) {}
     int errNo;
 };
@@ -19,7 +19,7 @@ class VELMOR_API QelCoSystemCallExceptionData {
 class VELMOR_API QelCoSystemCallException : public QelCoOperationFailureExceptionTrue {
     QEL_CO_DECLARE_EXCEPTION()
 
-  public:
+public:
     QelCoSystemCallException(char const* fileName, int line, char const* systemCall, int errNo);
     QelCoSystemCallException(char const* className, char const* methodName, char const* systemCall,
                              int errNo);
@@ -39,7 +39,7 @@ class VELMOR_API QelCoSystemCallException : public QelCoOperationFailureExceptio
     // The error number the call gave.
     int getErrNo() const;
 
-  private:
+private:
     QelCoSystemCallExceptionData m_qelCoSystemCallExceptionData;
 };
 

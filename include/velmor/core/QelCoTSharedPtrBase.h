@@ -53,7 +53,7 @@ struct QelCoTSharedUSTCounting {
 
 template <class E, class Counting>
 class QelCoTSharedPtrBase {
-  public:
+public:
     // Stores `object` and counts it, without releasing what was held before.
     void assign(E* object) {
         m_ptr = object;
@@ -69,7 +69,7 @@ class QelCoTSharedPtrBase {
     E* ptr() const { return m_ptr; }
     int isNull() const { return m_ptr == nullptr ? 1 : 0; }
 
-  protected:
+protected:
     constexpr QelCoTSharedPtrBase() : m_ptr(nullptr) {}
     QelCoTSharedPtrBase(E* object) : m_ptr(nullptr) { assign(object); }
     QelCoTSharedPtrBase(QelCoTSharedPtrBase const& other) : m_ptr(nullptr) { assign(other.m_ptr); }
@@ -100,7 +100,7 @@ class QelCoTSharedPtrBase {
     class Name : public ::Velmor::QelCoTSharedPtrBase<Element, Counting<T>> {               \
         using Base = ::Velmor::QelCoTSharedPtrBase<Element, Counting<T>>;                   \
                                                                                             \
-      public:                                                                               \
+    public:                                                                                 \
         constexpr Name() = default;                                                         \
         Name(Element* object) : Base(object) {}                                             \
         Name(Name const& other) = default;                                                  \

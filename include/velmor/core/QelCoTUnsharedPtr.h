@@ -7,7 +7,7 @@ namespace Velmor {
 
 template <class T>
 class QelCoTUnsharedPtr {
-  public:
+public:
     QelCoTUnsharedPtr() : m_ptr(nullptr) {}
     ~QelCoTUnsharedPtr() { release(); }
     QelCoTUnsharedPtr(QelCoTUnsharedPtr const&) = delete;
@@ -30,7 +30,7 @@ class QelCoTUnsharedPtr {
     T* ptr() const { return m_ptr; }
     int isNull() const { return m_ptr == nullptr ? 1 : 0; }
 
-  private:
+private:
     T* m_ptr;
 };
 

@@ -14,7 +14,7 @@
 namespace Velmor {
 
 class VELMOR_API QelCoTextOstreamTraceFormatter : public QelCoTraceFormatter {
-  public:
+public:
     // The bit of `flags` that gives the stream to the formatter.
     static constexpr int cs_ownsStream = 2;
 
@@ -51,7 +51,7 @@ class VELMOR_API QelCoTextOstreamTraceFormatter : public QelCoTraceFormatter {
     void exception(exceptionGroup group, char const* text) override;
     void flush() override;
 
-  private:
+private:
     std::ostream* m_stream;
     int m_flags;
 };

@@ -57,7 +57,7 @@ struct VELMOR_API QelCoTraceData {
 };
 
 class VELMOR_API QelCoTrace {
-  public:
+public:
     // The level the event wrappers use when none is given.
     static constexpr int cs_defaultLevel = 1;
     // The threshold of a silent frame, and of the process while tracing is off.
@@ -209,11 +209,11 @@ class VELMOR_API QelCoTrace {
     static void cs_enableOutCallStack();
     static void cs_disableOutCallStack();
 
-  protected:
+protected:
     // A silent frame, for derived classes that open it with do_construct.
     QelCoTrace() : m_data{nullptr, nullptr, nullptr, nullptr, nullptr, cs_thresholdOff, 0, 0} {}
 
-  private:
+private:
     // The threshold that leaves the process setting alone.
     static constexpr int cs_thresholdNone = -0x7fffffff - 1;
 

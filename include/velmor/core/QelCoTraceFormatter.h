@@ -14,7 +14,7 @@
 namespace Velmor {
 
 class VELMOR_API QelCoTraceFormatter {
-  public:
+public:
     // Where a caught exception comes from; printed as "stdlib", "qellib", "userlib".
     enum exceptionGroup { stdlibGroup = 0, qellibGroup = 1, userlibGroup = 2 };
 
@@ -43,7 +43,7 @@ class VELMOR_API QelCoTraceFormatter {
     // Pushes what is buffered to the destination.
     virtual void flush() = 0;
 
-  protected:
+protected:
     QelCoTraceFormatter() = default;
     QelCoTraceFormatter(QelCoTraceFormatter const&) = default;
     QelCoTraceFormatter& operator=(QelCoTraceFormatter const&) = default;

@@ -7,7 +7,7 @@
 namespace Velmor {
 
 class VELMOR_API QelCoUnsharedPtrConst {
-  public:
+public:
     static char const* cs_unsharedPtrClassName;   // "QelCoTUnsharedPtr"
     static char const* cs_unsharedTPtrClassName;  // "QelCoTUnsharedTPtr"
 };

@@ -10,7 +10,7 @@ namespace Velmor {
 class VELMOR_API QelLogNullMsgFormatter : public QelCoMsgFormatter {
     QEL_CO_DECLARE_RTTI()
 
-  public:
+public:
     QelLogNullMsgFormatter();
     ~QelLogNullMsgFormatter() override;
 

@@ -16,7 +16,7 @@ class QelLogOstreamMsgFormatterData;
 class VELMOR_API QelLogOstreamMsgFormatter : public QelCoMsgFormatter {
     QEL_CO_DECLARE_RTTI()
 
-  public:
+public:
     // Writes to `stream` (a null stream delivers nothing); deletes it at destruction when
     // `ownsStream` is not 0; leaves out the prefix when `noPrefix` is not 0. Throws
     // QelCoOutOfMemoryException if the formatter's data cannot be allocated.
@@ -28,7 +28,7 @@ class VELMOR_API QelLogOstreamMsgFormatter : public QelCoMsgFormatter {
     void warn(QelCoMsg const& msg) override;
     void info(QelCoMsg const& msg) override;
 
-  private:
+private:
     QelCoTUnsharedPtr<QelLogOstreamMsgFormatterData> m_data;
 };
 

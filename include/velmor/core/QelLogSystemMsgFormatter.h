@@ -14,7 +14,7 @@ class QelLogSystemMsgFormatterData;
 class VELMOR_API QelLogSystemMsgFormatter : public QelCoMsgFormatter {
     QEL_CO_DECLARE_RTTI()
 
-  public:
+public:
     // Throws QelCoOutOfMemoryException if the formatter's data cannot be allocated.
     QelLogSystemMsgFormatter();
     ~QelLogSystemMsgFormatter() override;
@@ -23,7 +23,7 @@ class VELMOR_API QelLogSystemMsgFormatter : public QelCoMsgFormatter {
     void warn(QelCoMsg const& msg) override;
     void info(QelCoMsg const& msg) override;
 
-  private:
+private:
     QelCoTUnsharedPtr<QelLogSystemMsgFormatterData> m_data;
 };
 

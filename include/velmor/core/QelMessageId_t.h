@@ -12,7 +12,7 @@
 namespace Velmor {
 
 class VELMOR_API QelMessageId_t {
-  public:
+public:
     static constexpr int cs_count = 60;
     static char const* cs_base;  // "velqel.cat"
 

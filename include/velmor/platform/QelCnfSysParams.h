@@ -11,7 +11,7 @@
 namespace Velmor {
 
 class VELMOR_API QelCnfSysParams {
-  public:
+public:
     static char const* cs_fileSeparator;     // "/"
     static char const* cs_pathSeparator;     // ";"
     static char const* cs_lineSeparator;     // "\n"

@@ -8,7 +8,7 @@
 namespace Velmor {
 
 class VELMOR_API QelCnfVersionInfoData {
-  public:
+public:
     static char const* cs_build;           // "$Build: <platform-compiler> $"
     static char const* cs_libName;         // "$Library Name: libvelmor.so $"
     static char const* cs_ppName;          // "@(#)Product Name   : Velmor"

@@ -24,7 +24,7 @@ namespace Velmor {
 using QelOsUnixFaultHook = int (*)(char const* callName);
 
 class VELMOR_API QelOsUnix {
-  public:
+public:
     // Installs `hook`, or removes it with null. Returns the hook it replaces.
     static QelOsUnixFaultHook cs_setFaultHook(QelOsUnixFaultHook hook);
 

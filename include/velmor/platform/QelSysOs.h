@@ -8,7 +8,7 @@
 namespace Velmor {
 
 class VELMOR_API QelSysOs {
-  public:
+public:
     // Sleep for whole seconds; a signal ends the sleep early. Returns the seconds left.
     static unsigned int qel_sleep(unsigned int seconds);
     static unsigned int sleep(unsigned int seconds);

@@ -12,7 +12,7 @@ namespace Velmor {
 
 // The extra state of QelUtNumberFormatException.
 class VELMOR_API QelUtNumberFormatExceptionData {
-  public:
+public:
     explicit QelUtNumberFormatExceptionData(char const* text) : illegalString(text) {}
     QelCoExceptionString illegalString;
 };
@@ -20,7 +20,7 @@ class VELMOR_API QelUtNumberFormatExceptionData {
 class VELMOR_API QelUtNumberFormatException : public QelCoLogicalException {
     QEL_CO_DECLARE_EXCEPTION()
 
-  public:
+public:
     QelUtNumberFormatException(char const* fileName, int line, char const* illegal);
     QelUtNumberFormatException(char const* className, char const* methodName, char const* illegal);
     QelUtNumberFormatException(QelCoObject const* object, char const* methodName,
@@ -39,7 +39,7 @@ class VELMOR_API QelUtNumberFormatException : public QelCoLogicalException {
     // The text that could not be read, or "illegal number lost due to memory shortage".
     char const* getIllegalString() const;
 
-  private:
+private:
     QelUtNumberFormatExceptionData m_qelUtNumberFormatExceptionData;
 };
 

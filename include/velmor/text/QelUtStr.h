@@ -14,7 +14,7 @@
 namespace Velmor {
 
 class VELMOR_API QelUtStr {
-  public:
+public:
     // "The whole text" for the `n` parameters.
     static constexpr unsigned int npos = 0xffffffffu;
 

@@ -12,7 +12,7 @@
 namespace Velmor {
 
 class VELMOR_API QelComtLockable {
-  public:
+public:
     // Constant-initialised, so a file-static lock is ready before any static initialiser runs.
     constexpr QelComtLockable() : m_mutex PTHREAD_MUTEX_INITIALIZER {}
     ~QelComtLockable();
@@ -23,7 +23,7 @@ class VELMOR_API QelComtLockable {
     void lock();
     void unlock();
 
-  private:
+private:
     pthread_mutex_t m_mutex;
 };
 

@@ -8,14 +8,14 @@
 namespace Velmor {
 
 class VELMOR_API QelComtLocker {
-  public:
+public:
     // Locks `lockable`; a null argument throws QelCoNullPointerException ("pLockable").
     explicit QelComtLocker(QelComtLockable* lockable);
     ~QelComtLocker();
     QelComtLocker(QelComtLocker const&) = delete;
     QelComtLocker& operator=(QelComtLocker const&) = delete;
 
-  private:
+private:
     QelComtLockable* m_lockable;
 };
 

@@ -8,7 +8,7 @@
 namespace Velmor {
 
 class VELMOR_API QelComtUnlocker {
-  public:
+public:
     // Takes over without locking; a null argument throws QelCoNullPointerException
     // ("pLockable").
     explicit QelComtUnlocker(QelComtLockable* lockable);
@@ -16,7 +16,7 @@ class VELMOR_API QelComtUnlocker {
     QelComtUnlocker(QelComtUnlocker const&) = delete;
     QelComtUnlocker& operator=(QelComtUnlocker const&) = delete;
 
-  private:
+private:
     QelComtLockable* m_lockable;
 };
 

@@ -16,7 +16,7 @@
 namespace Velmor {
 
 class VELMOR_API QelMtFirstCall : public QelMtLockable {
-  public:
+public:
     QelMtFirstCall();
 
     // True exactly once for the life of the gate, returned with the gate's lock still held;
@@ -24,7 +24,7 @@ class VELMOR_API QelMtFirstCall : public QelMtLockable {
     // tried again.
     bool isFirst();
 
-  private:
+private:
     int m_done;
 };
 

@@ -16,7 +16,7 @@ namespace Velmor {
 class QelMtLockableData;
 
 class VELMOR_API QelMtLockable {
-  public:
+public:
     // Makes a recursive mutex. Throws QelCoOutOfMemoryException when the body cannot be
     // allocated, and the mapped exception of a failing attribute or init call.
     QelMtLockable();
@@ -32,7 +32,7 @@ class VELMOR_API QelMtLockable {
     // True if now held; false if another thread holds it.
     bool tryLock();
 
-  private:
+private:
     QelCoTUnsharedPtr<QelMtLockableData> m_data;
 };
 

@@ -8,7 +8,7 @@
 namespace Velmor {
 
 class VELMOR_API QelMtLocker {
-  public:
+public:
     // Locks `lockable`. A null argument throws QelCoNullPointerException; if lock() throws,
     // nothing is held.
     explicit QelMtLocker(QelMtLockable* lockable);
@@ -17,7 +17,7 @@ class VELMOR_API QelMtLocker {
     QelMtLocker(QelMtLocker const&) = delete;
     QelMtLocker& operator=(QelMtLocker const&) = delete;
 
-  private:
+private:
     QelMtLockable* m_lockable;
 };
 

@@ -8,7 +8,7 @@
 namespace Velmor {
 
 class VELMOR_API QelMtStringData {
-  public:
+public:
     static char const* cs_MutexInit;      // "pthread_mutex_init"
     static char const* cs_MutexDestroy;   // "pthread_mutex_destroy"
     static char const* cs_MutexLock;      // "pthread_mutex_lock"

@@ -8,7 +8,7 @@
 namespace Velmor {
 
 class VELMOR_API QelMtUnlocker {
-  public:
+public:
     // Takes over the held lock without locking. A null argument throws
     // QelCoNullPointerException.
     explicit QelMtUnlocker(QelMtLockable* lockable);
@@ -17,7 +17,7 @@ class VELMOR_API QelMtUnlocker {
     QelMtUnlocker(QelMtUnlocker const&) = delete;
     QelMtUnlocker& operator=(QelMtUnlocker const&) = delete;
 
-  private:
+private:
     QelMtLockable* m_lockable;
 };
 

@@ -1,5 +1,8 @@
 #include <velmor/basic/QelBtTString.h>
 
+#include <cstring>
+#include <cwchar>
+
 #include <velmor/basic/QelBtTStringMethods.h>
 
 namespace Velmor {
@@ -16,22 +19,116 @@ struct fs_Compared<char> {
     using type = signed char;
 };
 
+unsigned int fs_min(unsigned int a, unsigned int b) { return a < b ? a : b; }
+
 template <class T>
 bool fs_less(T a, T b) {
     using C = typename fs_Compared<T>::type;
     return static_cast<C>(a) < static_cast<C>(b);
 }
 
+// Element scans, through the C library where it has them for the element type.
+template <class T>
+struct fs_Elements {
+    static unsigned int length(T const* s) {
+        unsigned int length = 0;
+        while (s[length] != T(0))
+            ++length;
+        return length;
+    }
+    static T const* find(T const* from, T c, unsigned int count) {
+        for (unsigned int i = 0; i < count; ++i) {
+            if (from[i] == c) return from + i;
+        }
+        return nullptr;
+    }
+    // Elements before the first zero, at most `limit`.
+    static unsigned int boundedLength(T const* s, unsigned int limit) {
+        unsigned int length = 0;
+        while (length < limit && s[length] != T(0))
+            ++length;
+        return length;
+    }
+};
+
+template <>
+struct fs_Elements<char> {
+    static unsigned int length(char const* s) { return static_cast<unsigned int>(std::strlen(s)); }
+    static char const* find(char const* from, char c, unsigned int count) {
+        return static_cast<char const*>(std::memchr(from, c, count));
+    }
+    static unsigned int boundedLength(char const* s, unsigned int limit) {
+        return static_cast<unsigned int>(strnlen(s, limit));
+    }
+};
+
+template <>
+struct fs_Elements<wchar_t> {
+    static unsigned int length(wchar_t const* s) {
+        return static_cast<unsigned int>(std::wcslen(s));
+    }
+    static wchar_t const* find(wchar_t const* from, wchar_t c, unsigned int count) {
+        return std::wmemchr(from, c, count);
+    }
+    static unsigned int boundedLength(wchar_t const* s, unsigned int limit) {
+        return static_cast<unsigned int>(wcsnlen(s, limit));
+    }
+};
+
 // The length of `s` up to its terminator.
 template <class T>
 unsigned int fs_length(T const* s) {
-    unsigned int length = 0;
-    while (s[length] != T(0))
-        ++length;
-    return length;
+    return fs_Elements<T>::length(s);
 }
 
-unsigned int fs_min(unsigned int a, unsigned int b) { return a < b ? a : b; }
+// Walks `a` and `b` together for up to `limit` elements, each stopping at its first zero
+// element, and answers as the core comparison does. `aReadable` and `bReadable` bound what may
+// be read of each side; each holds a zero element at its last readable place, or the walk
+// ends at `limit` before it.
+template <class T>
+int fs_walk(T const* a, unsigned int aReadable, T const* b, unsigned int bReadable,
+            unsigned int limit) {
+    if (limit == 0) return b[0] != T(0) ? -1 : 0;
+    unsigned int span = fs_min(limit, fs_min(aReadable, bReadable));
+    // Where both sides agree on the whole span, a zero in it is a zero on both sides, and the
+    // walk ends equal either way.
+    if (std::memcmp(a, b, std::size_t(span) * sizeof(T)) == 0) return 0;
+    unsigned int const chunk = 64;
+    unsigned int first = 0;
+    while (std::memcmp(a + first, b + first,
+                       std::size_t(fs_min(chunk, span - first)) * sizeof(T)) == 0) {
+        first += chunk;
+    }
+    while (a[first] == b[first])
+        ++first;
+    // A zero before the first difference ends the walk there, on both sides at once.
+    if (fs_Elements<T>::boundedLength(a, first) < first) return 0;
+    if (a[first] == T(0)) return -1;
+    if (b[first] == T(0)) return 1;
+    return fs_less(a[first], b[first]) ? -1 : 1;
+}
+
+// The core comparison of `n` elements of `text` (of `length`) from `pos` with `m` elements of
+// `s` (npos: up to its terminator). `sReadable` is how much of `s` may be read, when the
+// caller knows it (a string's length plus its terminator), or npos.
+template <class T>
+int fs_compare(T const* text, unsigned int length, unsigned int pos, unsigned int n, T const* s,
+               unsigned int m, unsigned int sReadable) {
+    unsigned int const npos = QelBtStringConsts::npos;
+    if (pos > length) return 1;
+    if (n == npos) n = length - pos;
+    if (m == npos) {
+        m = fs_Elements<T>::length(s);
+        sReadable = m + 1;
+    }
+    unsigned int limit = n > m ? n : m;
+    if (sReadable == npos) {
+        // The walk may read `s` up to its terminator or the limit, whatever `m` says.
+        unsigned int before = fs_Elements<T>::boundedLength(s, limit);
+        sReadable = before < limit ? before + 1 : limit;
+    }
+    return fs_walk(text + pos, length - pos + 1, s, sReadable, limit);
+}
 
 // Whether `c` is among the first `k` elements of `set`.
 template <class T>
@@ -154,14 +251,7 @@ QelBtTString<T>& QelBtTString<T>::append(S const& o, unsigned int pos, unsigned 
 }
 
 template <class T>
-QelBtTString<T>& QelBtTString<T>::operator+=(T c) {
-    push_back(c);
-    return *this;
-}
-
-template <class T>
-void QelBtTString<T>::push_back(T c) {
-    if (c == T(0)) return;
+void QelBtTString<T>::appendElement(T c) {
     T const text[2] = {c, T(0)};
     append(text, 1);
 }
@@ -343,26 +433,7 @@ QelBtTString<T> QelBtTString<T>::substr(unsigned int pos, unsigned int n) const 
 
 template <class T>
 int QelBtTString<T>::compare(unsigned int pos, unsigned int n, T const* s, unsigned int m) const {
-    unsigned int length = this->length();
-    if (pos > length) return 1;
-    if (n == npos) n = length - pos;
-    if (m == npos) m = fs_length(s);
-    unsigned int limit = n > m ? n : m;
-    T const* a = c_str() + pos;
-    T const* b = s;
-    unsigned int compared = 0;
-    while (compared < limit && *a != T(0) && *b != T(0)) {
-        if (*a != *b) return fs_less(*a, *b) ? -1 : 1;
-        ++a;
-        ++b;
-        ++compared;
-    }
-    if (compared == limit) {
-        if (limit != 0) return 0;
-        return s[0] != T(0) ? -1 : 0;
-    }
-    if (*a != T(0)) return 1;
-    return *b != T(0) ? -1 : 0;
+    return fs_compare(c_str(), length(), pos, n, s, m, npos);
 }
 
 template <class T>
@@ -379,13 +450,13 @@ int QelBtTString<T>::compare(unsigned int pos, unsigned int n, T const* s) const
 template <class T>
 int QelBtTString<T>::compare(S const& o) const {
     if (m_block == o.m_block) return 0;
-    return compare(0, length(), o.data(), o.length());
+    return fs_compare(c_str(), length(), 0, length(), o.data(), o.length(), o.length() + 1);
 }
 
 template <class T>
 int QelBtTString<T>::compare(unsigned int pos, unsigned int n, S const& o) const {
     if (m_block == o.m_block) return 0;
-    return compare(pos, n, o.data(), o.length());
+    return fs_compare(c_str(), length(), pos, n, o.data(), o.length(), o.length() + 1);
 }
 
 template <class T>
@@ -412,8 +483,21 @@ unsigned int QelBtTString<T>::find(T const* s, unsigned int pos, unsigned int n)
     unsigned int k = fs_min(n, fs_length(s));
     unsigned int length = this->length();
     T const* text = c_str();
-    for (unsigned int i = pos; i < length; ++i) {
-        if (text[i] == s[0] && compare(i, k, s, k) == 0) return i;
+    if (k == 0) {
+        // Only a zero element stored inside the text can match an empty pattern.
+        for (unsigned int i = pos; i < length; ++i) {
+            if (text[i] == s[0] && compare(i, k, s, k) == 0) return i;
+        }
+        return npos;
+    }
+    // The pattern has no zero element among its first k, so a match is an equal run of k
+    // elements that ends inside the text.
+    for (unsigned int i = pos; i < length && k <= length - i; ++i) {
+        T const* hit = fs_Elements<T>::find(text + i, s[0], length - i);
+        if (hit == nullptr) return npos;
+        i = static_cast<unsigned int>(hit - text);
+        if (k > length - i) return npos;
+        if (std::memcmp(hit, s, std::size_t(k) * sizeof(T)) == 0) return i;
     }
     return npos;
 }

@@ -195,6 +195,15 @@ TYPED_TEST(TypedString, ComparisonFollowsTheNulRule) {
     EXPECT_TRUE(abc > S(t("ab").data()));
     EXPECT_TRUE(abc <= S(t("abc").data()));
 
+    // The walk covers the larger count, on the pattern as well, up to its terminator.
+    S abcdx(t("abcdX").data());
+    EXPECT_EQ(-1, abcdx.compare(0, 5, t("abcdefgh").data(), 3));
+    EXPECT_EQ(0, abcdx.compare(0, 4, t("abcdefgh").data(), 2));
+    EXPECT_EQ(1, abcdx.compare(0, 5, t("abcd").data(), 2));
+    EXPECT_EQ(-1, abcdx.compare(0, 2, t("abcdXY").data()));
+    EXPECT_EQ(0, abcdx.compare(1, 3, S(t("bcd").data())));
+    EXPECT_EQ(1, abcdx.compare(1, 4, S(t("bcd").data())));
+
     // Behind an inner zero the texts differ, but comparison stops there.
     std::vector<TypeParam> first = fs_text<TypeParam>("ab\0x", 4);
     std::vector<TypeParam> second = fs_text<TypeParam>("ab\0y", 4);

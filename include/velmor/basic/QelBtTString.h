@@ -59,8 +59,21 @@ public:
     S& append(S const& o, unsigned int pos, unsigned int n);
     S& operator+=(T const* s) { return append(s); }
     S& operator+=(S const& o) { return append(o); }
-    S& operator+=(T c);
-    void push_back(T c);
+    S& operator+=(T c) {
+        push_back(c);
+        return *this;
+    }
+    void push_back(T c) {
+        if (c == T(0)) return;
+        QelBtStringBlock* block = m_block;
+        if (block->refCount == 1 && block->length + 2 <= block->capacity) {
+            T* text = static_cast<T*>(block->elements());
+            text[block->length] = c;
+            text[++block->length] = T(0);
+            return;
+        }
+        appendElement(c);
+    }
     S& insert(unsigned int pos, T const* s, unsigned int n);
     S& insert(unsigned int pos, T const* s);
     S& insert(unsigned int pos, S const& o);
@@ -177,6 +190,8 @@ public:
 
 private:
     T* elements() { return static_cast<T*>(m_block->elements()); }
+    // One element at the end when the block must grow or be unshared first.
+    void appendElement(T c);
     void setLength(unsigned int length) {
         m_block->length = length;
         elements()[length] = T(0);

@@ -1,8 +1,10 @@
-// QelBtTStringMethods<T>: element copies in one direction each. copy() goes from the lowest
-// address up (right when the target lies below the source), move() from the highest down
-// (right when the target lies above it). Stateless; any thread.
+// QelBtTStringMethods<T>: element copies for the string classes. copy() is meant for a
+// target below the source, move() for a target above it; both are also right for any other
+// overlap, as they copy the way memmove does. Stateless; any thread.
 #ifndef VELMOR_BASIC_QELBTTSTRINGMETHODS_H
 #define VELMOR_BASIC_QELBTTSTRINGMETHODS_H
+
+#include <cstring>
 
 namespace Velmor {
 
@@ -10,12 +12,10 @@ template <class T>
 class QelBtTStringMethods {
 public:
     static void copy(T* dst, T const* src, unsigned int n) {
-        for (unsigned int i = 0; i < n; ++i)
-            dst[i] = src[i];
+        std::memmove(dst, src, std::size_t(n) * sizeof(T));
     }
     static void move(T* dst, T const* src, unsigned int n) {
-        for (unsigned int i = n; i > 0; --i)
-            dst[i - 1] = src[i - 1];
+        std::memmove(dst, src, std::size_t(n) * sizeof(T));
     }
 };
 

@@ -13,6 +13,8 @@ extern thread_local long t_allocationsBeforeFailure;
 extern thread_local bool t_allocationFailsOnce;
 extern thread_local long t_mallocsBeforeFailure;
 extern thread_local bool t_mallocFailsOnce;
+// malloc calls made on this thread (counted where malloc can be replaced).
+extern thread_local long t_mallocCalls;
 
 class ScopedAllocationFailure {
 public:

@@ -11,6 +11,7 @@ thread_local long t_allocationsBeforeFailure = -1;
 thread_local bool t_allocationFailsOnce = false;
 thread_local long t_mallocsBeforeFailure = -1;
 thread_local bool t_mallocFailsOnce = false;
+thread_local long t_mallocCalls = 0;
 }  // namespace VelmorTest
 
 // Whether the next call must fail, by the counter `left` and its "once" flag.
@@ -27,6 +28,7 @@ static bool fs_shouldFail(long& left, bool once) {
 extern "C" void* __libc_malloc(std::size_t size);
 
 extern "C" void* malloc(std::size_t size) {
+    ++VelmorTest::t_mallocCalls;
     if (fs_shouldFail(VelmorTest::t_mallocsBeforeFailure, VelmorTest::t_mallocFailsOnce)) {
         return nullptr;
     }

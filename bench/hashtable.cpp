@@ -53,7 +53,8 @@ std::string fs_key<std::string>(std::uint32_t i) {
 template <class K>
 std::vector<K> fs_keys(std::uint32_t n, std::uint32_t offset) {
     std::vector<K> keys;
-    for (std::uint32_t i = 0; i < n; ++i) keys.push_back(fs_key<K>(i + offset));
+    for (std::uint32_t i = 0; i < n; ++i)
+        keys.push_back(fs_key<K>(i + offset));
     return keys;
 }
 
@@ -69,7 +70,8 @@ struct VelmorMap {
     void erase(K const& k) { table.erase(k); }
     long sum() {
         long total = 0;
-        for (auto i = table.begin(); i != table.end(); ++i) total += (*i).second;
+        for (auto i = table.begin(); i != table.end(); ++i)
+            total += (*i).second;
         return total;
     }
     Velmor<K, H> table;
@@ -83,7 +85,8 @@ struct PeerMap {
     void erase(K const& k) { map.erase(k); }
     long sum() {
         long total = 0;
-        for (auto const& entry : map) total += entry.second;
+        for (auto const& entry : map)
+            total += entry.second;
         return total;
     }
     Map map;
@@ -95,7 +98,8 @@ void insertAll(benchmark::State& state) {
     std::vector<K> keys = fs_keys<K>(n, 0);
     for (auto _ : state) {
         M map(n);
-        for (K const& k : keys) map.insert(k);
+        for (K const& k : keys)
+            map.insert(k);
         benchmark::DoNotOptimize(map);
     }
     state.SetItemsProcessed(state.iterations() * n);
@@ -106,9 +110,11 @@ void findHit(benchmark::State& state) {
     auto n = static_cast<std::uint32_t>(state.range(0));
     std::vector<K> keys = fs_keys<K>(n, 0);
     M map(n);
-    for (K const& k : keys) map.insert(k);
+    for (K const& k : keys)
+        map.insert(k);
     for (auto _ : state) {
-        for (K const& k : keys) benchmark::DoNotOptimize(map.find(k));
+        for (K const& k : keys)
+            benchmark::DoNotOptimize(map.find(k));
     }
     state.SetItemsProcessed(state.iterations() * n);
 }
@@ -117,10 +123,12 @@ template <class M, class K>
 void findMiss(benchmark::State& state) {
     auto n = static_cast<std::uint32_t>(state.range(0));
     M map(n);
-    for (K const& k : fs_keys<K>(n, 0)) map.insert(k);
+    for (K const& k : fs_keys<K>(n, 0))
+        map.insert(k);
     std::vector<K> missing = fs_keys<K>(n, n);
     for (auto _ : state) {
-        for (K const& k : missing) benchmark::DoNotOptimize(map.find(k));
+        for (K const& k : missing)
+            benchmark::DoNotOptimize(map.find(k));
     }
     state.SetItemsProcessed(state.iterations() * n);
 }
@@ -132,9 +140,11 @@ void eraseAll(benchmark::State& state) {
     for (auto _ : state) {
         state.PauseTiming();
         M map(n);
-        for (K const& k : keys) map.insert(k);
+        for (K const& k : keys)
+            map.insert(k);
         state.ResumeTiming();
-        for (K const& k : keys) map.erase(k);
+        for (K const& k : keys)
+            map.erase(k);
     }
     state.SetItemsProcessed(state.iterations() * n);
 }
@@ -143,8 +153,10 @@ template <class M, class K>
 void iterate(benchmark::State& state) {
     auto n = static_cast<std::uint32_t>(state.range(0));
     M map(n);
-    for (K const& k : fs_keys<K>(n, 0)) map.insert(k);
-    for (auto _ : state) benchmark::DoNotOptimize(map.sum());
+    for (K const& k : fs_keys<K>(n, 0))
+        map.insert(k);
+    for (auto _ : state)
+        benchmark::DoNotOptimize(map.sum());
     state.SetItemsProcessed(state.iterations() * n);
 }
 
@@ -156,8 +168,10 @@ void allocate_velmor(benchmark::State& state) {
     QelMemTBlockAllocator<Payload> allocator;
     std::vector<void*> slots(1024);
     for (auto _ : state) {
-        for (void*& slot : slots) slot = new (allocator.allocateBase()) Payload();
-        for (void* slot : slots) allocator.deallocateBase(slot);
+        for (void*& slot : slots)
+            slot = new (allocator.allocateBase()) Payload();
+        for (void* slot : slots)
+            allocator.deallocateBase(slot);
     }
     state.SetItemsProcessed(state.iterations() * 1024);
 }
@@ -165,8 +179,10 @@ void allocate_velmor(benchmark::State& state) {
 void allocate_malloc(benchmark::State& state) {
     std::vector<void*> slots(1024);
     for (auto _ : state) {
-        for (void*& slot : slots) slot = std::malloc(sizeof(Payload));
-        for (void* slot : slots) std::free(slot);
+        for (void*& slot : slots)
+            slot = std::malloc(sizeof(Payload));
+        for (void* slot : slots)
+            std::free(slot);
     }
     state.SetItemsProcessed(state.iterations() * 1024);
 }
@@ -177,15 +193,15 @@ void fs_sizes(benchmark::internal::Benchmark* b) {
 
 }  // namespace
 
-#define VELMOR_MAP_BENCH(operation, keyName, K, H)                                              \
-    BENCHMARK_TEMPLATE(operation, VelmorMap<K, H>, K)                                           \
-        ->Name(#operation "_" #keyName "/velmor")                                               \
-        ->Apply(fs_sizes);                                                                      \
-    BENCHMARK_TEMPLATE(operation, PeerMap<std::unordered_map<K, int, H, H>, K>, K)              \
-        ->Name(#operation "_" #keyName "/std")                                                  \
+#define VELMOR_MAP_BENCH(operation, keyName, K, H)                                 \
+    BENCHMARK_TEMPLATE(operation, VelmorMap<K, H>, K)                              \
+        ->Name(#operation "_" #keyName "/velmor")                                  \
+        ->Apply(fs_sizes);                                                         \
+    BENCHMARK_TEMPLATE(operation, PeerMap<std::unordered_map<K, int, H, H>, K>, K) \
+        ->Name(#operation "_" #keyName "/std")                                     \
         ->Apply(fs_sizes)
 
-#define VELMOR_MAP_BENCHES(keyName, K, H)      \
+#define VELMOR_MAP_BENCHES(keyName, K, H)       \
     VELMOR_MAP_BENCH(insertAll, keyName, K, H); \
     VELMOR_MAP_BENCH(findHit, keyName, K, H);   \
     VELMOR_MAP_BENCH(findMiss, keyName, K, H);  \
@@ -196,9 +212,9 @@ VELMOR_MAP_BENCHES(uint32, std::uint32_t, UintHash);
 VELMOR_MAP_BENCHES(string16, std::string, StringHash);
 
 #ifdef VELMOR_BENCH_ABSL
-BENCHMARK_TEMPLATE(findHit, PeerMap<absl::flat_hash_map<std::uint32_t, int, UintHash, UintHash>,
-                                    std::uint32_t>,
-                   std::uint32_t)
+BENCHMARK_TEMPLATE(
+    findHit, PeerMap<absl::flat_hash_map<std::uint32_t, int, UintHash, UintHash>, std::uint32_t>,
+    std::uint32_t)
     ->Name("findHit_uint32/absl")
     ->Apply(fs_sizes);
 #endif

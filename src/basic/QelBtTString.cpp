@@ -139,7 +139,6 @@ bool fs_inSet(T c, T const* set, unsigned int k) {
     return false;
 }
 
-
 }  // namespace
 
 template <class T>

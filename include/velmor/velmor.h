@@ -17,6 +17,7 @@
 #include <velmor/basic/QelBtTHTElem.h>
 #include <velmor/basic/QelBtTHTIter.h>
 #include <velmor/basic/QelBtTHTManip.h>
+#include <velmor/basic/QelBtTHTPosition.h>
 #include <velmor/basic/QelBtTHashTable.h>
 #include <velmor/basic/QelBtTReverseCPtr.h>
 #include <velmor/basic/QelBtTReversePtr.h>

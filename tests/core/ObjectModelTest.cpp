@@ -287,16 +287,3 @@ TEST(Functions, StrdupCopiesOrGivesNullWhenMemoryIsShort) {
     ASSERT_NE(nullptr, block);
     QelCnfFunctions::cs_free(block);
 }
-
-TEST(PointerNames, FixedTexts) {
-    EXPECT_STREQ("QelCoTSharedPtr", QelCoSharedPtrConsts::cs_SharedPtrClassName);
-    EXPECT_STREQ("QelCoTSharedCPtr", QelCoSharedPtrConsts::cs_SharedCPtrClassName);
-    EXPECT_STREQ("QelCoTSharedTPtr", QelCoSharedPtrConsts::cs_SharedTPtrClassName);
-    EXPECT_STREQ("QelCoTSharedTCPtr", QelCoSharedPtrConsts::cs_SharedTCPtrClassName);
-    EXPECT_STREQ("QelCoTSharedUSPtr", QelCoSharedUSPtrConsts::cs_SharedUSPtrClassName);
-    EXPECT_STREQ("QelCoTSharedUSCPtr", QelCoSharedUSPtrConsts::cs_SharedUSCPtrClassName);
-    EXPECT_STREQ("QelCoTSharedUSTPtr", QelCoSharedUSPtrConsts::cs_SharedUSTPtrClassName);
-    EXPECT_STREQ("QelCoTSharedUSTCPtr", QelCoSharedUSPtrConsts::cs_SharedUSTCPtrClassName);
-    EXPECT_STREQ("QelCoTUnsharedPtr", QelCoUnsharedPtrConst::cs_unsharedPtrClassName);
-    EXPECT_STREQ("QelCoTUnsharedTPtr", QelCoUnsharedPtrConst::cs_unsharedTPtrClassName);
-}

@@ -226,32 +226,3 @@ TEST(FirstCall, RunsItsBodyOnceUnderContention) {
     }
     EXPECT_FALSE(gate.isFirst());
 }
-
-TEST(MtStringData, CallNames) {
-    char const* const names[] = {
-        QelMtStringData::cs_MutexInit,     QelMtStringData::cs_MutexDestroy,
-        QelMtStringData::cs_MutexLock,     QelMtStringData::cs_MutexUnlock,
-        QelMtStringData::cs_CondInit,      QelMtStringData::cs_CondDestroy,
-        QelMtStringData::cs_CondSignal,    QelMtStringData::cs_CondWait,
-        QelMtStringData::cs_CondTimedWait, QelMtStringData::cs_Create,
-        QelMtStringData::cs_Detach,        QelMtStringData::cs_Join,
-        QelMtStringData::cs_ClockGetTime,  QelMtStringData::cs_Wait,
-        QelMtStringData::cs_WaitAtMax};
-    char const* const expected[] = {"pthread_mutex_init",
-                                    "pthread_mutex_destroy",
-                                    "pthread_mutex_lock",
-                                    "pthread_mutex_unlock",
-                                    "pthread_cond_init",
-                                    "pthread_cond_destroy",
-                                    "pthread_cond_signal",
-                                    "pthread_cond_wait",
-                                    "pthread_cond_timedwait",
-                                    "pthread_create",
-                                    "pthread_detach",
-                                    "pthread_join",
-                                    "clock_gettime",
-                                    "wait",
-                                    "waitAtMax"};
-    for (int i = 0; i < 15; ++i)
-        EXPECT_STREQ(expected[i], names[i]);
-}

@@ -4,32 +4,19 @@
 #ifndef VELMOR_BASIC_QELBTTHTITER_H
 #define VELMOR_BASIC_QELBTTHTITER_H
 
-#include <velmor/basic/QelBtHTIterBase.h>
-#include <velmor/basic/QelBtTHTElem.h>
+#include <utility>
+
+#include <velmor/basic/QelBtTHTPosition.h>
 
 namespace Velmor {
 
 template <class K, class V>
-class QelBtTHTIter : public QelBtHTIterBase {
+class QelBtTHTIter : public QelBtTHTPosition<QelBtTHTIter<K, V>, K, V, std::pair<const K, V>> {
+    using Base = QelBtTHTPosition<QelBtTHTIter<K, V>, K, V, std::pair<const K, V>>;
+
 public:
     QelBtTHTIter() {}
-    QelBtTHTIter(QelBtHTIterBase const& position) : QelBtHTIterBase(position) {}
-
-    std::pair<const K, V>& operator*() const {
-        return static_cast<QelBtTHTElem<K, V>*>(m_element)->value;
-    }
-    std::pair<const K, V>* operator->() const { return &**this; }
-    QelBtTHTIter& operator++() {
-        findNext();
-        return *this;
-    }
-    QelBtTHTIter operator++(int) {
-        QelBtTHTIter before(*this);
-        findNext();
-        return before;
-    }
-    bool operator==(QelBtHTIterBase const& other) const { return m_element == other.m_element; }
-    bool operator!=(QelBtHTIterBase const& other) const { return m_element != other.m_element; }
+    QelBtTHTIter(QelBtHTIterBase const& position) : Base(position) {}
 };
 
 }  // namespace Velmor
